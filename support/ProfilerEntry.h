@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+/// One named timing of the profiler. Its owner keeps it alive, and at the same
+/// address, for as long as the profiler knows it: until `Profiler::Reset` or the
+/// end of the program.
+struct ProfilerEntry {
+  std::string name;
+  /// When the entry was begun last: time of day in milliseconds.
+  double start = 0.0;
+  /// Milliseconds accumulated over all intervals that have ended.
+  double total = 0.0;
+};
