@@ -1,0 +1,4 @@
+#include "installer/DisplayCheck.h"
+
+// The window server starts applications only where it can show them.
+bool IsDisplayAvailable() { return true; }

@@ -1,0 +1,3 @@
+#include "installer/Cocoa/MainMenuBar.h"
+
+NSMenu* MakeMainMenuBar(NSString* title) { return [[[NSMenu alloc] initWithTitle:title] autorelease]; }

@@ -1,0 +1,37 @@
+#import <AppKit/AppKit.h>
+
+#include <cstdio>
+
+#import "installer/Cocoa/InstallerAppDelegate.h"
+#include "installer/Cocoa/MainMenu.h"
+#include "installer/DisplayCheck.h"
+
+namespace {
+
+/// Where AppKit would show more than this application wants: as defaults only,
+/// so that what the user has chosen still counts.
+void RegisterDefaults() {
+  NSDictionary* defaults =
+      [NSDictionary dictionaryWithObjectsAndKeys:@"YES", @"GSSuppressAppIcon",
+                                                 @"NSMacintoshInterfaceStyle",
+                                                 @"NSMenuInterfaceStyle", nil];
+  [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
+}
+
+}  // namespace
+
+int main(int argc, const char** argv) {
+  if (!IsDisplayAvailable()) {
+    std::fputs("OstrelInstaller needs a graphical session: no display could be opened.\n", stderr);
+    return 1;
+  }
+  NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+  RegisterDefaults();
+  [NSApplication sharedApplication];
+  InstallMainMenu();
+  // The application does not retain its delegate; it ends with the process.
+  [NSApp setDelegate:[[InstallerAppDelegate alloc] init]];
+  const int status = NSApplicationMain(argc, argv);
+  [pool drain];
+  return status;
+}

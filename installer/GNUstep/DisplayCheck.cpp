@@ -1,0 +1,10 @@
+#include "installer/DisplayCheck.h"
+
+#include <X11/Xlib.h>
+
+bool IsDisplayAvailable() {
+  Display* display = XOpenDisplay(nullptr);
+  if (display == nullptr) return false;
+  XCloseDisplay(display);
+  return true;
+}

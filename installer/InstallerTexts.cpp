@@ -1,0 +1,46 @@
+#include "installer/InstallerTexts.h"
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kVersion[3] = {2, 2, 2};
+constexpr int kBuild = 2169;
+
+}  // namespace
+
+std::string InstallerTexts::Welcome() {
+  char text[256];
+  std::snprintf(text, sizeof text,
+                "This will install Ostrel 3D %d.%d.%d (%d) plugin on your computer.\n\n"
+                "It is recommended that you close all other applications before continuing.\n\n"
+                "Click Next to continue, or Cancel to exit the installer.",
+                kVersion[0], kVersion[1], kVersion[2], kBuild);
+  return text;
+}
+
+std::string InstallerTexts::HostLabel(const InstallerState& state, std::size_t slot) {
+  return slot == kOtherVersionSlot ? state.otherVersionName : kHostCatalogue[slot].label;
+}
+
+std::string InstallerTexts::Summary(const InstallerState& state) {
+  std::string text = "Installing Ostrel 3D on:\n\n";
+  for (std::size_t slot = 0; slot < kHostSlotCount; ++slot) {
+    if (state.hostSelected[slot] == 0) continue;
+    if (slot == kCustomSlot && state.hostPath[slot].empty()) continue;
+    text += HostLabel(state, slot) + ": \n" + state.hostPath[slot] + "\n\n";
+  }
+  return text;
+}
+
+std::string InstallerTexts::Progress(const InstallerState& state) {
+  const int step = state.installStep.load(std::memory_order_relaxed);
+  if (step == kDataFolderStep) return "Installing assets...";
+  if (step < 0 || step > kDataFolderStep) return "Preparing to install...";
+  return "Installing " + HostLabel(state, static_cast<std::size_t>(step)) + " version...";
+}
+
+std::string InstallerTexts::Failure(const InstallerState& state) {
+  return "An error occurred while installing Ostrel 3D.\nPlease contact support.\nError code:" +
+         std::to_string(state.installError.load(std::memory_order_relaxed));
+}

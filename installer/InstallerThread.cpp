@@ -1,0 +1,5 @@
+#include "installer/InstallerThread.h"
+
+#include "installer/InstallerUI.h"
+
+void InstallerThread::Run() { RunInstallation(*owner); }
