@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Src/HXUI/Cocoa/NativeTypes.h"
+
+// What the two AppKits do differently when they draw. Main thread only.
+
+/// Sets up what only one of the two AppKits needs before the toolkit draws
+/// into `context`: upright glyphs and unsmoothed fonts.
+void PrepareGraphicsContext(NSGraphicsContext* context);
+
+/// True when drawing `image` in a flipped view obeys the image's own flipped
+/// mark: its source rectangles then count from the top, and it stands upright
+/// without further ado.
+bool DrawsFromTop(NSImage* image);
+
+/// Draws the whole image over all of `target`, which is 8-bit premultiplied
+/// RGBA without padding and transparent so far. An image without a
+/// representation leaves it so.
+void CopyPixels(NSImage* image, NSBitmapImageRep* target);

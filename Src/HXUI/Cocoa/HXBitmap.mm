@@ -1,0 +1,151 @@
+#include "Src/HXUI/Cocoa/HXBitmap.h"
+
+#import <AppKit/AppKit.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <new>
+#include <utility>
+
+#include "Src/HXUI/Cocoa/Conversions.h"
+#include "Src/HXUI/Cocoa/GraphicsState.h"
+#include "Src/HXUI/HXObject.h"
+
+namespace {
+
+/// Beyond this, the row table or the byte count of one of the platform's decoders overflows.
+constexpr std::uint32_t kLargestPngSide = 16383;
+
+std::uint32_t BigEndian32(const unsigned char* bytes) {
+  return (std::uint32_t{bytes[0]} << 24) | (std::uint32_t{bytes[1]} << 16) |
+         (std::uint32_t{bytes[2]} << 8) | std::uint32_t{bytes[3]};
+}
+
+bool IsOverlargePng(NSData* data) {
+  static constexpr unsigned char kSignature[] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+  constexpr std::size_t kWidthOffset = 16;
+  constexpr std::size_t kHeightOffset = 20;
+  if ([data length] < kHeightOffset + 4) return false;
+  const auto* bytes = static_cast<const unsigned char*>([data bytes]);
+  return std::equal(std::begin(kSignature), std::end(kSignature), bytes) &&
+         (BigEndian32(bytes + kWidthOffset) > kLargestPngSide ||
+          BigEndian32(bytes + kHeightOffset) > kLargestPngSide);
+}
+
+/// The caller owns one reference; nil for what is no image.
+NSImage* Decode(NSData* data) {
+  if ([data length] == 0 || IsOverlargePng(data)) return nil;
+  @try {
+    return [[NSImage alloc] initWithData:data];
+  } @catch (NSException*) {
+    // Some decoders raise on files that are too short.
+    return nil;
+  }
+}
+
+NSBitmapImageRep* FirstBitmap(NSImage* image) {
+  for (NSImageRep* rep in [image representations]) {
+    if ([rep isKindOfClass:[NSBitmapImageRep class]]) return static_cast<NSBitmapImageRep*>(rep);
+  }
+  return nil;
+}
+
+/// Over `bytes`, which it does not own. The caller owns one reference.
+NSBitmapImageRep* WrapPixels(unsigned char* bytes, HXSize size) {
+  return [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:&bytes
+                                                 pixelsWide:size.width
+                                                 pixelsHigh:size.height
+                                              bitsPerSample:8
+                                            samplesPerPixel:4
+                                                   hasAlpha:YES
+                                                   isPlanar:NO
+                                             colorSpaceName:NSDeviceRGBColorSpace
+                                                bytesPerRow:4 * size.width
+                                               bitsPerPixel:32];
+}
+
+}  // namespace
+
+HXBitmap::HXBitmap(const unsigned char* bytes, std::uint32_t length) {
+  LoadFromBytes(bytes, length);
+}
+
+HXBitmap::~HXBitmap() { Replace(nil); }
+
+void HXBitmap::Replace(NSImage* newImage) {
+  [image release];
+  image = newImage;
+}
+
+void HXBitmap::LoadFromBytes(const unsigned char* bytes, std::uint32_t length) {
+  NSData* data = [[NSData alloc] initWithBytes:bytes length:length];
+  Replace(Decode(data));
+  [data release];
+  [image setFlipped:YES];
+}
+
+void HXBitmap::LoadFromFile(const std::string& path) {
+  NSString* nativePath = ToNative(path);
+  NSData* data = nativePath == nil ? nil : [[NSData alloc] initWithContentsOfFile:nativePath];
+  NSImage* loaded = Decode(data);
+  [data release];
+  Replace(loaded != nil ? loaded : [[NSImage alloc] initWithSize:NSMakeSize(1, 1)]);
+}
+
+void HXBitmap::CreateEmpty(HXSize size) {
+  Replace([[NSImage alloc] initWithSize:ToNative(size)]);
+  [image setFlipped:YES];
+}
+
+HXSize HXBitmap::GetPixelSize() const {
+  HXSize largest;
+  for (NSImageRep* rep in [image representations]) {
+    largest.width = std::max(largest.width, static_cast<std::int32_t>([rep pixelsWide]));
+    largest.height = std::max(largest.height, static_cast<std::int32_t>([rep pixelsHigh]));
+  }
+  if (largest.width > 0 && largest.height > 0) return largest;
+  return image == nil ? HXSize{} : FromNative([image size]);
+}
+
+std::unique_ptr<HXBitmapPixels> HXBitmap::LockPixels() {
+  const HXSize size = GetPixelSize();
+  if (size.width <= 0 || size.height <= 0) return std::make_unique<HXBitmapPixels>(nullptr);
+  if (pixels) {
+    NSBitmapImageRep* existing = FirstBitmap(image);
+    if (existing != nil) {
+      [image setCacheMode:NSImageCacheNever];
+      return std::make_unique<HXBitmapPixels>(existing);
+    }
+  }
+
+  const auto rowCount = static_cast<std::size_t>(size.height);
+  std::unique_ptr<unsigned char[]> buffer(
+      new (std::nothrow) unsigned char[static_cast<std::size_t>(size.width) * 4 * rowCount]());
+  if (buffer == nullptr) return std::make_unique<HXBitmapPixels>(nullptr);
+  NSBitmapImageRep* rep = WrapPixels(buffer.get(), size);
+  CopyPixels(image, rep);
+
+  NSImage* replacement = [[NSImage alloc] initWithSize:ToNative(size)];
+  [replacement addRepresentation:rep];
+  [replacement setFlipped:YES];
+  // Without a cache, later drawings show what was written into the buffer.
+  [replacement setCacheMode:NSImageCacheNever];
+  Replace(replacement);
+  pixels = std::move(buffer);
+  [rep release];
+  return std::make_unique<HXBitmapPixels>(rep);
+}
+
+void HXBitmap::CopyViewToBitmap(HXObject& widget, HXBitmap& bitmap) {
+  NSView* view = widget.GetNativeView();
+  if ([view window] == nil) return;
+  [[view window] makeKeyAndOrderFront:nil];
+  [view lockFocus];
+  const NSRect bounds = [view bounds];
+  NSBitmapImageRep* rep = [[NSBitmapImageRep alloc] initWithFocusedViewRect:bounds];
+  [view unlockFocus];
+  bitmap.CreateEmpty(FromNative(bounds.size));
+  if (rep != nil) [bitmap.image addRepresentation:rep];
+  [rep release];
+}

@@ -1,0 +1,33 @@
+#import "Src/HXUI/Cocoa/HXTopWindow.h"
+
+@implementation HXTopWindow
+
+- (void)setWorksInModal:(BOOL)works {
+  worksInModal = works;
+}
+
+- (BOOL)worksWhenModal {
+  return worksInModal;
+}
+
+- (BOOL)canBecomeKeyWindow {
+  return YES;
+}
+
+- (BOOL)canBecomeMainWindow {
+  return YES;
+}
+
+- (BOOL)performKeyEquivalent:(NSEvent*)event {
+  // GNUstep asks for every key that is typed.
+  if (([event modifierFlags] & NSCommandKeyMask) == 0) return NO;
+  return [super performKeyEquivalent:event];
+}
+
+- (void)keyDown:(NSEvent*)event {
+  // GNUstep would take this for an equivalent too, and leave a modal run on
+  // Escape by throwing.
+  (void)event;
+}
+
+@end
