@@ -38,6 +38,16 @@ class InstallerUI : public HXWindow, public InstallerState {
     kFinishPage = 6,
   };
 
+  /// What the buttons ask for.
+  enum CommandId : std::uint32_t {
+    kCancelCommand = 1,
+    kNextCommand = 10,
+    kBackCommand = 11,
+    kBrowseHostCommand = 20,
+    /// No button of this wizard.
+    kBrowseAssetsCommand = 30,
+  };
+
   /// Makes what the run works on; `redraw` may be called from any thread.
   using WorldFactory =
       std::function<std::unique_ptr<InstallationWorld>(std::function<void()> redraw)>;
@@ -56,6 +66,10 @@ class InstallerUI : public HXWindow, public InstallerState {
   /// Asks the user, unless the run has ended.
   bool CanClose() override;
 
+  /// The notification hook of every button: on `kLeftUp` does what the sender's
+  /// `CommandId` asks for, and redraws.
+  void OnCommand(std::uint32_t eventCode);
+
   /// One of the three places for the assets was chosen (notification
   /// `kChangeDone`): 0 the user's documents, 1 the shared ones, 2 a folder of
   /// the user's own. This wizard has no such controls.
@@ -65,14 +79,6 @@ class InstallerUI : public HXWindow, public InstallerState {
   InstallationWorld& GetWorld() { return *world; }
 
  private:
-  enum CommandId : std::uint32_t {
-    kCancelCommand = 1,
-    kNextCommand = 10,
-    kBackCommand = 11,
-    kBrowseHostCommand = 20,
-    kBrowseAssetsCommand = 30,
-  };
-
   // Building, each its own part of the window.
   void BuildButtons();
   void BuildHostPanel();
@@ -89,8 +95,7 @@ class InstallerUI : public HXWindow, public InstallerState {
   void DrawProgressPage(HXCocoaDC& dc);
   void DrawButtonBar(HXCocoaDC& dc);
 
-  // The buttons' notification hook, and what the commands do.
-  void OnCommand(std::uint32_t eventCode);
+  // What the commands do.
   void GoForward();
   void GoBack();
   void LeaveHostPage();

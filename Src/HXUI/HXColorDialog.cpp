@@ -120,6 +120,8 @@ bool HXColorDialog::OnTextBoxKeyDown(HXTextBox&, int key) {
 }
 
 void HXColorDialog::OnEventSink(HXEventSinkRecord& record) {
+  // A closed dialog stays a sink until it is destroyed.
+  if (IsClosed()) return;
   if (record.kind == kKeyUp) {
     Synchronise();
     return;

@@ -69,6 +69,11 @@ HXControlFloat::~HXControlFloat() {
 
 void HXControlFloat::SetValuePointer(float* boundValue) {
   value = boundValue;
+  // An unbound field hears of no release.
+  if (value == nullptr && dragging) {
+    dragging = false;
+    ReleaseMouse();
+  }
   FitSize();
 }
 
@@ -237,7 +242,12 @@ void HXControlFloat::EndEdit(bool accept) {
   editor->SetVisible(false);
   // The hidden box must not go on taking keys.
   if (hadFocus) SetFocus();
-  if (guard.IsAlive() && value != nullptr && accept) TakeTypedText();
+  if (guard.IsAlive()) Commit(accept);
+}
+
+void HXControlFloat::Commit(bool accept) {
+  const HXObjectGuard guard(this);
+  if (value != nullptr && accept) TakeTypedText();
   if (guard.IsAlive()) FitSize();
 }
 
@@ -260,7 +270,12 @@ void HXControlFloat::OnEventSink(HXEventSinkRecord& record) {
   }
 }
 
-void HXControlFloat::OnTextBoxFocusLost(HXTextBox&) { EndEdit(true); }
+void HXControlFloat::OnTextBoxFocusLost(HXTextBox&) {
+  if (!IsEditing()) return;
+  // The keyboard is on its way to somebody else and must not be called back.
+  editor->SetVisible(false);
+  Commit(true);
+}
 
 bool HXControlFloat::OnTextBoxKeyDown(HXTextBox&, int key) {
   if (key == kKeyInsertNewline || key == kKeyEscape) EndEdit(key == kKeyInsertNewline);

@@ -27,7 +27,7 @@ class HXControlFloat : public HXPanelControl, public HXTextBoxOwner {
                  float lowest, float highest, float dragSensitivity);
   ~HXControlFloat() override;
 
-  /// Binds another number, or none.
+  /// Binds another number, or none, which also ends a drag.
   void SetValuePointer(float* boundValue);
   /// Lets the field widen to what is being typed.
   void SetGrowWhileEditing(bool grow);
@@ -65,6 +65,8 @@ class HXControlFloat : public HXPanelControl, public HXTextBoxOwner {
   void Press();
   void Drag();
   void Release();
+  /// What follows once the editor is hidden.
+  void Commit(bool accept);
   void TakeTypedText();
 
   std::int64_t groupIndex = 0;

@@ -7,7 +7,8 @@ class HXControlFloatParent {
  public:
   virtual ~HXControlFloatParent() = default;
 
-  /// A field has fitted its size to its text; the size may be the same.
+  /// A field has fitted its size to its text; the size may be the same. Must
+  /// not delete the field.
   virtual void OnFieldFitted() = 0;
 
  protected:

@@ -19,9 +19,7 @@ std::vector<HXObject*>& Sinks() {
 
 void HXEventSinks::Add(HXObject* sink) { Sinks().push_back(sink); }
 
-void HXEventSinks::Remove(const HXObject* sink) {
-  std::erase(Sinks(), sink);
-}
+void HXEventSinks::Remove(const HXObject* sink) { std::erase(Sinks(), sink); }
 
 bool HXEventSinks::Send(HXObject* source, std::uint32_t kind, std::int64_t parameter) {
   const HXObjectGuard sourceGuard(source);

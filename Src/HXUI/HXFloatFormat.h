@@ -37,7 +37,8 @@ class HXFloatFormat {
   std::string EditorText(float value) const;
 
   /// The number that `text` begins with; a comma counts as a decimal point.
-  /// Nothing when it begins with no number or the number cannot be represented.
+  /// Nothing when it begins with no number, or with one whose amount is beyond
+  /// a double; what is only beyond a float becomes infinite.
   std::optional<float> Parse(const std::string& text) const;
 
  private:

@@ -30,7 +30,10 @@ void HXHelpTip::Show(HXPoint point, const std::string& newTitle, const std::stri
   title = newTitle;
   text = newText;
   SetVisible(false);
-  SetSize(SizeForTexts());
+  const HXSize size = SizeForTexts();
+  // A window does not get smaller than its minimum, which is the size it was built with.
+  SetMinSize(size);
+  SetSize(size);
   // Window positions count from the bottom of the screen to the bottom of the window.
   SetPosition({point.x, NativeWindow::GetScreenHeight() - point.y});
   HXWindow::Show();

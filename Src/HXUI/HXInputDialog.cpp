@@ -10,7 +10,7 @@ namespace {
 constexpr HXSize kSize{200, 80};
 constexpr HXPoint kBoxPosition{15, 15};
 constexpr HXSize kBoxSize{170, 15};
-constexpr std::uint32_t kMaxLength = 24;
+constexpr int kMaxLength = 24;
 constexpr HXSize kButtonSize{80, 30};
 constexpr HXPoint kOkPosition{15, 40};
 constexpr HXPoint kCancelPosition{105, 40};

@@ -141,7 +141,8 @@ class HXObject {
   HXPoint GetMousePosition(bool screen) const;
   /// From this widget's coordinates to the screen's (y grows upward).
   HXPoint ClientToScreen(HXPoint point) const;
-  /// The widget that has the keyboard of the key window; null when none, or a native text field, has it.
+  /// The widget that has the keyboard of the key window; null when none, or a native text field,
+  /// has it.
   static HXObject* GetFocusedObject();
   /// Whether files may be dropped onto this widget.
   void SetAcceptsFileDrops(bool accept);

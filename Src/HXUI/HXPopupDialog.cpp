@@ -45,10 +45,12 @@ HXPopupDialog::HXPopupDialog(HXWindow* owner, const std::string& title, const st
     column->AddGap(kGapWithoutCheckBox);
   }
   column->AddLayout(BuildButtons(yesNo, cancelStyle), false);
-  const std::int32_t height = column->Measure().height + kBottomMargin;
+  const HXSize size{textSize.width + kTextMarginX, column->Measure().height + kBottomMargin};
   HXWindow::SetLayout(std::move(column));
 
-  HXWindow::SetSize({textSize.width + kTextMarginX, height});
+  // A window does not get smaller than its minimum, which is the size it was built with.
+  HXWindow::SetMinSize(size);
+  HXWindow::SetSize(size);
   Center();
   Redraw();
   RedrawNow();

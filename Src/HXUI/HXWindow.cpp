@@ -92,6 +92,8 @@ int HXWindow::RunModal() {
     if (modal) NativeWindow::WaitForInput();
   }
   NativeWindow::EndModal(session);
+  // The end of a run inside this one has brought the window back to the front.
+  if (guard.IsAlive() && closed) NativeWindow::SetVisible(window, false);
 
   if (ownerGuard.IsAlive()) owner->SetEnabled(true);
   return guard.IsAlive() ? static_cast<int>(result) : 0;

@@ -5,7 +5,7 @@
 
 /// The platform's file dialogs. Each runs application-modally until the user
 /// has decided. `prompt` is what the dialog's default button says; an empty
-/// one leaves the platform's word. A start directory that is null, empty or not
+/// one leaves the button as it is. A start directory that is null, empty or not
 /// there leaves the dialog where the platform opens it. A `filter` is as in
 /// FileTypeFilter.h; null allows every file. Texts and paths in UTF-8, the
 /// returned ones absolute. Main thread only.

@@ -2,6 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <algorithm>
+
 #include "Src/HXUI/Cocoa/Conversions.h"
 #include "Src/HXUI/FileTypeFilter.h"
 
@@ -32,15 +34,56 @@
 
 namespace {
 
+/// Gives the button the room for its title, at the expense of what stands to the
+/// left of it in its row.
+void WidenToTitle(NSView* button, CGFloat wanted) {
+  const NSRect frame = [button frame];
+  NSMutableArray* row = [NSMutableArray array];
+  CGFloat room = NSMinX(frame);
+  for (NSView* view in [[button superview] subviews]) {
+    const NSRect other = [view frame];
+    if (NSMinX(other) >= NSMinX(frame) || NSMaxY(other) <= NSMinY(frame) ||
+        NSMinY(other) >= NSMaxY(frame)) {
+      continue;
+    }
+    [row addObject:view];
+    room = std::min(room, NSMinX(other));
+  }
+  const CGFloat added = std::min(wanted - NSWidth(frame), room);
+  if (added <= 0) return;
+  for (NSView* view in row) {
+    [view setFrameOrigin:NSMakePoint(NSMinX([view frame]) - added, NSMinY([view frame]))];
+  }
+  [button setFrame:NSMakeRect(NSMinX(frame) - added, NSMinY(frame), NSWidth(frame) + added,
+                              NSHeight(frame))];
+  [[button superview] setNeedsDisplay:YES];
+}
+
+/// The control below `view` that shows `cell`. The cell itself does not know
+/// before it has been drawn once.
+NSControl* ControlOf(NSCell* cell, NSView* view) {
+  if ([view isKindOfClass:[NSControl class]] && [static_cast<NSControl*>(view) cell] == cell) {
+    return static_cast<NSControl*>(view);
+  }
+  for (NSView* child in [view subviews]) {
+    NSControl* found = ControlOf(cell, child);
+    if (found != nil) return found;
+  }
+  return nil;
+}
+
 void SetPrompt(NSSavePanel* panel, const std::string& prompt) {
   NSString* text = ToNative(prompt);
   if ([text length] == 0) return;
   // GNUstep takes the prompt for the label of the name field and leaves the
-  // button alone. On macOS both corrections change nothing.
+  // button alone. On macOS these corrections change nothing.
   NSString* label = [[[panel nameFieldLabel] retain] autorelease];
   [panel setPrompt:text];
   if (label != nil) [panel setNameFieldLabel:label];
-  [[panel defaultButtonCell] setTitle:text];
+  NSButtonCell* cell = [panel defaultButtonCell];
+  [cell setTitle:text];
+  NSControl* button = cell == nil ? nil : ControlOf(cell, [panel contentView]);
+  if (button != nil) WidenToTitle(button, [cell cellSize].width);
 }
 
 void SetStart(NSSavePanel* panel, const char* directory) {
@@ -62,8 +105,9 @@ bool Run(NSSavePanel* panel) {
     confirmed = [panel runModal] == NSOKButton;
   } @catch (NSException* exception) {
     NSLog(@"The file dialog ended early: %@", [exception reason]);
-    [panel orderOut:nil];
   }
+  // One that was not ended by its own buttons is still there.
+  [panel orderOut:nil];
   return confirmed;
 }
 

@@ -17,3 +17,7 @@ bool DrawsFromTop(NSImage* image);
 /// RGBA without padding and transparent so far. An image without a
 /// representation leaves it so.
 void CopyPixels(NSImage* image, NSBitmapImageRep* target);
+
+/// Makes the next drawing of `image` show what has been written into the bytes
+/// of its bitmap since the last one.
+void RefreshImage(NSImage* image);

@@ -44,8 +44,9 @@ class HXBitmap {
   /// layout: see `GetBitsPerPixel`.
   std::unique_ptr<HXBitmapPixels> LockPixels();
 
-  /// What the platform draws; null when empty.
-  NSImage* GetImage() const { return image; }
+  /// What the platform draws, up to date with the locked pixels; null when
+  /// empty. To be asked for before each drawing.
+  NSImage* GetImage() const;
 
   /// A snapshot of `widget` as it stands on the screen; brings its window to
   /// the front and makes it key. Without a window the bitmap stays as it was.

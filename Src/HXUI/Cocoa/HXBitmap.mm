@@ -108,15 +108,18 @@ HXSize HXBitmap::GetPixelSize() const {
   return image == nil ? HXSize{} : FromNative([image size]);
 }
 
+NSImage* HXBitmap::GetImage() const {
+  // Whoever locked the pixels may have written some since.
+  if (pixels) RefreshImage(image);
+  return image;
+}
+
 std::unique_ptr<HXBitmapPixels> HXBitmap::LockPixels() {
   const HXSize size = GetPixelSize();
   if (size.width <= 0 || size.height <= 0) return std::make_unique<HXBitmapPixels>(nullptr);
   if (pixels) {
     NSBitmapImageRep* existing = FirstBitmap(image);
-    if (existing != nil) {
-      [image setCacheMode:NSImageCacheNever];
-      return std::make_unique<HXBitmapPixels>(existing);
-    }
+    if (existing != nil) return std::make_unique<HXBitmapPixels>(existing);
   }
 
   const auto rowCount = static_cast<std::size_t>(size.height);
@@ -129,8 +132,6 @@ std::unique_ptr<HXBitmapPixels> HXBitmap::LockPixels() {
   NSImage* replacement = [[NSImage alloc] initWithSize:ToNative(size)];
   [replacement addRepresentation:rep];
   [replacement setFlipped:YES];
-  // Without a cache, later drawings show what was written into the buffer.
-  [replacement setCacheMode:NSImageCacheNever];
   Replace(replacement);
   pixels = std::move(buffer);
   [rep release];

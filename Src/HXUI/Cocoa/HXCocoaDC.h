@@ -86,6 +86,7 @@ class HXCocoaDC {
   void Stroke(NSBezierPath* path);
 
   HXObject* widget;
+  // Null where nothing is to be drawn.
   NSGraphicsContext* context = nullptr;
   NSColor* textColor = nullptr;
   NSFont* font = nullptr;
@@ -94,4 +95,6 @@ class HXCocoaDC {
   NSColor* strokeColor = nullptr;
   NSColor* fillColor = nullptr;
   float strokeWidth = 1;
+  // What the clips of this context leave.
+  HXRect clip = {INT32_MIN / 2, INT32_MIN / 2, INT32_MAX, INT32_MAX};
 };

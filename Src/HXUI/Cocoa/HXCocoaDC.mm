@@ -47,8 +47,8 @@ NSSize Extent(NSString* text, NSSize bounds, NSDictionary* attributes) {
 }
 
 /// `text` itself when it fits into `box`, otherwise as much of its beginning as fits with an
-/// ellipsis after it. Not every AppKit heeds the option that asks for this. Text of which not even
-/// one line fits comes back whole, for the platform to cut.
+/// ellipsis after it. Not every AppKit heeds the option that asks for this. nil when not even one
+/// line fits.
 NSString* Truncated(NSString* text, NSSize box, NSDictionary* attributes) {
   const NSSize column = NSMakeSize(box.width, kUnbounded);
   if (Extent(text, column, attributes).height <= box.height) return text;
@@ -66,13 +66,22 @@ NSString* Truncated(NSString* text, NSSize box, NSDictionary* attributes) {
       longest = middle;
     }
   }
-  return fitting == nil ? text : fitting;
+  return fitting;
 }
 
 void DrawInBox(NSString* text, NSRect box, NSDictionary* attributes) {
-  [Truncated(text, box.size, attributes) drawWithRect:box
-                                              options:kDrawOptions
-                                           attributes:attributes];
+  if (NSIsEmptyRect(box)) return;
+  NSString* fitting = Truncated(text, box.size, attributes);
+  if (fitting != nil) {
+    [fitting drawWithRect:box options:kDrawOptions attributes:attributes];
+    return;
+  }
+  // In a box that is too low for its first line some platforms put the text anywhere.
+  [NSGraphicsContext saveGraphicsState];
+  NSRectClip(box);
+  box.size.height = kUnbounded;
+  [text drawWithRect:box options:kDrawOptions attributes:attributes];
+  [NSGraphicsContext restoreGraphicsState];
 }
 
 /// `source` counts from the image's own origin; all of it when zero.
@@ -256,5 +265,12 @@ HXSize HXCocoaDC::MeasureText(const std::string& text, HXSize bounds, std::uint3
 
 void HXCocoaDC::SetClipRect(HXRect rect) {
   if (context == nil) return;
-  NSRectClip(IsEmpty(rect) ? NSZeroRect : ToNative(rect));
+  const NSRect area =
+      IsEmpty(rect) ? NSZeroRect : NSIntersectionRect(ToNative(clip), ToNative(rect));
+  NSRectClip(area);
+  const HXPoint origin = FromNative(area.origin);
+  const HXSize size = FromNative(area.size);
+  clip = {origin.x, origin.y, size.width, size.height};
+  // Some platforms forget a clip that leaves nothing when they save the graphics state.
+  if (IsEmpty(clip) || ![[NSView focusView] needsToDrawRect:area]) context = nil;
 }

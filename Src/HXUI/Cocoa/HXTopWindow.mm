@@ -18,6 +18,13 @@
   return YES;
 }
 
+- (void)sendEvent:(NSEvent*)event {
+  // What the event leads to may delete the window, even within a modal run of
+  // another one, whose pools are drained before this event has ended.
+  [[self retain] autorelease];
+  [super sendEvent:event];
+}
+
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
   // GNUstep asks for every key that is typed.
   if (([event modifierFlags] & NSCommandKeyMask) == 0) return NO;

@@ -166,7 +166,8 @@ NSArray* DroppedPaths(id<NSDraggingInfo> dragging) {
   if (win != nullptr) {
     for (HXObject* child : win->GetChildren()) {
       NSView* view = child->GetNativeView();
-      if (![view isKindOfClass:[HXView class]] || [view superview] != self || [view isHidden]) continue;
+      if (![view isKindOfClass:[HXView class]] || [view superview] != self || [view isHidden])
+        continue;
       const NSPoint point = [view convertPoint:[event locationInWindow] fromView:nil];
       if (!NSMouseInRect(point, [view bounds], [view isFlipped])) continue;
       [static_cast<HXView*>(view) handleMouseMoved:event];

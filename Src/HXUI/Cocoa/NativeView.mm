@@ -76,8 +76,8 @@ void NativeView::MarkForRedraw(NSView* view) {
     [view setNeedsDisplay:YES];
     return;
   }
-  NSArray* modes = [NSArray
-      arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
+  NSArray* modes = [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
+                                             NSEventTrackingRunLoopMode, nil];
   [view performSelectorOnMainThread:@selector(markForRedraw)
                          withObject:nil
                       waitUntilDone:NO

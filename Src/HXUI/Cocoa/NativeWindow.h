@@ -53,8 +53,8 @@ void* BeginModal(NSWindow* window);
 bool ServeModalEvents(void* session);
 /// Waits in the default mode for the next input or timer and lets it act.
 void WaitForInput();
-/// Stops the session of `window` if it is the innermost one; the session must
-/// not be ended before the calls above have returned.
+/// Stops the session of `window` if it is the innermost one, and ends a wait for
+/// input; the session must not be ended before the calls above have returned.
 void StopModal(NSWindow* window);
 void EndModal(void* session);
 

@@ -13,9 +13,26 @@ namespace {
 constexpr NSInteger kFloatingLevel = 101;
 
 NSUInteger StyleMask(NativeWindow::Style style) {
-  NSUInteger mask = style.borderless ? NSBorderlessWindowMask : NSTitledWindowMask | NSClosableWindowMask;
+  NSUInteger mask =
+      style.borderless ? NSBorderlessWindowMask : NSTitledWindowMask | NSClosableWindowMask;
   if (style.resizable) mask |= NSResizableWindowMask;
   return mask;
+}
+
+/// Ends a wait for input that is under way: neither AppKit returns from it by
+/// itself after a timer. One does for an event, the other for a new timer.
+void WakeUp() {
+  [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
+                                      location:NSZeroPoint
+                                 modifierFlags:0
+                                     timestamp:0
+                                  windowNumber:0
+                                       context:nil
+                                       subtype:0
+                                         data1:0
+                                         data2:0]
+           atStart:NO];
+  [NSApp performSelector:@selector(self) withObject:nil afterDelay:0];
 }
 
 }  // namespace
@@ -106,9 +123,7 @@ void NativeWindow::Center(NSWindow* window) { [window center]; }
 void NativeWindow::Zoom(NSWindow* window) { [window zoom:nil]; }
 bool NativeWindow::IsZoomed(NSWindow* window) { return [window isZoomed] == YES; }
 
-bool NativeWindow::IsKey(NSWindow* window) {
-  return window != nil && [NSApp keyWindow] == window;
-}
+bool NativeWindow::IsKey(NSWindow* window) { return window != nil && [NSApp keyWindow] == window; }
 
 std::int32_t NativeWindow::GetScreenHeight() {
   NSArray* screens = [NSScreen screens];
@@ -136,6 +151,7 @@ void NativeWindow::WaitForInput() {
 
 void NativeWindow::StopModal(NSWindow* window) {
   if (window != nil && [NSApp modalWindow] == window) [NSApp stopModal];
+  WakeUp();
 }
 
 void NativeWindow::EndModal(void* session) {

@@ -31,3 +31,5 @@ void CopyPixels(NSImage* image, NSBitmapImageRep* target) {
   [NSGraphicsContext restoreGraphicsState];
   [pool drain];
 }
+
+void RefreshImage(NSImage* image) { [image recache]; }

@@ -88,3 +88,15 @@ void CopyPixels(NSImage* image, NSBitmapImageRep* target) {
     [pool drain];
   }
 }
+
+// Not by dropping the cache, nor by doing without: for every new cache, be it for a single drawing,
+// the platform makes a window and never gives all of its memory back.
+void RefreshImage(NSImage* image) {
+  NSBitmapImageRep* rep = LargestBitmap(image);
+  if (rep == nil) return;
+  NSRect all = NSZeroRect;
+  all.size = [image size];
+  [image lockFocusOnRepresentation:rep];
+  [image drawRepresentation:rep inRect:all];
+  [image unlockFocus];
+}

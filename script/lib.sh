@@ -1,0 +1,99 @@
+# Shared by the scripts of this folder, which source it after `set -eu`: where the
+# project is, how they speak, and a display of their own with all that they start on it.
+
+project=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd -P)
+bundle=$project/build/release/OstrelInstaller.app
+
+# say TEXT...: progress, one line.
+say() {
+  printf '==> %s\n' "$*"
+}
+
+# fail TEXT...: one sentence on standard error, and the end of the script.
+fail() {
+  printf '%s: %s\n' "script/$(basename -- "$0")" "$*" >&2
+  exit 1
+}
+
+# wait_until SECONDS TEXT COMMAND...: repeats the command until it succeeds; fails with TEXT when it is too late.
+wait_until() {
+  wait_end=$(($(date +%s) + $1))
+  wait_text=$2
+  shift 2
+  until "$@"; do
+    [ "$(date +%s)" -lt "$wait_end" ] || fail "$wait_text"
+    sleep 0.02
+  done
+}
+
+# as_root COMMAND...: runs the command with administrator rights.
+as_root() {
+  if [ "$(id -u)" = 0 ]; then
+    "$@"
+  else
+    sudo "$@"
+  fi
+}
+
+# Whether a window can be opened on the display that the environment names.
+has_display() {
+  [ -n "${DISPLAY-}" ] && xdpyinfo >/dev/null 2>&1
+}
+
+# open_session FOLDER: from here on everything started by the script keeps its
+# temporary files in FOLDER/tmp. GNUstep starts daemons that outlive the programs
+# that needed them; they find each other, and end_session finds them, by that folder.
+# Keep FOLDER short: it becomes part of the names of sockets.
+open_session() {
+  session=$1
+  mkdir -p "$session/tmp"
+  # GNUstep refuses a folder that others may use.
+  chmod 700 "$session/tmp"
+  TMPDIR=$session/tmp
+  export TMPDIR
+}
+
+# The processes of the session, one id a line, without this script itself.
+session_processes() {
+  for session_entry in /proc/[0-9]*; do
+    session_id=${session_entry#/proc/}
+    [ "$session_id" != "$$" ] || continue
+    if grep -qzxF "TMPDIR=$session/tmp" "$session_entry/environ" 2>/dev/null; then
+      echo "$session_id"
+    fi
+  done
+}
+
+# end_session: ends every process of the session and nothing else.
+end_session() {
+  [ -n "${session-}" ] || return 0
+  for session_signal in TERM KILL; do
+    # shellcheck disable=SC2046
+    kill -s "$session_signal" $(session_processes) 2>/dev/null || true
+    session_tries=0
+    while [ -n "$(session_processes)" ] && [ "$session_tries" -lt 50 ]; do
+      sleep 0.02
+      session_tries=$((session_tries + 1))
+    done
+  done
+}
+
+has_display_number() {
+  [ -s "$session/display" ]
+}
+
+has_window_manager() {
+  xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 0x
+}
+
+# start_display: an X server with a window manager inside the session; sets DISPLAY.
+start_display() {
+  unset DISPLAY XAUTHORITY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
+  # The server picks a free number and says which.
+  Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
+  wait_until 30 "the X server did not start; it says: $(tail -n 1 "$session/server.log" 2>/dev/null)" has_display_number
+  DISPLAY=:$(cat "$session/display")
+  export DISPLAY
+  openbox --sm-disable >"$session/window-manager.log" 2>&1 </dev/null &
+  wait_until 30 "the window manager did not start." has_window_manager
+}

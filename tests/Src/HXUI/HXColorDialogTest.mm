@@ -1,0 +1,1 @@
+#include "tests/Src/HXUI/ToolkitFixture.h"

@@ -1,0 +1,377 @@
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <utility>
+
+#include "Src/HXUI/Cocoa/HXCocoaTimer.h"
+#include "Src/HXUI/HXWindow.h"
+#include "tests/Src/HXUI/RecordingPanel.h"
+#include "tests/Src/HXUI/RecordingSink.h"
+#include "tests/Src/HXUI/RecordingWindow.h"
+#include "tests/Src/HXUI/ToolkitFixture.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+
+class HXWindowModalTest : public ToolkitFixture {
+ protected:
+  ~HXWindowModalTest() override { EXPECT_EQ([NSApp modalWindow], nil); }
+  static NSWindow* Native(const HXWindow& of) { return [of.GetNativeView() window]; }
+  static void PressCloseButton(const HXWindow& of) { [Native(of) performClose:nil]; }
+  NSEvent* Key(const HXWindow& of, NSString* characters) {
+    return [NSEvent keyEventWithType:NSKeyDown
+                            location:NSZeroPoint
+                       modifierFlags:0
+                           timestamp:0
+                        windowNumber:[Native(of) windowNumber]
+                             context:nil
+                          characters:characters
+         charactersIgnoringModifiers:characters
+                           isARepeat:NO
+                             keyCode:0];
+  }
+  /// As if the platform had brought the event: a running wait for input ends.
+  static void Post(NSEvent* event) {
+    [NSApp postEvent:event atStart:NO];
+    Later([] {});
+  }
+  static void PostMouse(NSEventType type, const HXWindow& to, NSPoint location) {
+    Post([NSEvent mouseEventWithType:type
+                            location:location
+                       modifierFlags:0
+                           timestamp:0
+                        windowNumber:[Native(to) windowNumber]
+                             context:nil
+                         eventNumber:0
+                          clickCount:1
+                            pressure:1]);
+  }
+};
+
+TEST_F(HXWindowModalTest, CloseButtonEndsTheRunWithOne) {
+  RecordingWindow dialog(window.get());
+  bool shown = false;
+  Later([&] {
+    shown = [Native(dialog) isVisible] && [NSApp modalWindow] == Native(dialog);
+    PressCloseButton(dialog);
+  });
+  EXPECT_EQ(dialog.RunModal(), 1);
+  EXPECT_TRUE(shown);
+  EXPECT_TRUE(dialog.IsVisible());
+  EXPECT_TRUE(dialog.IsClosed());
+  EXPECT_EQ(dialog.closings, 1);
+}
+
+TEST_F(HXWindowModalTest, EndModalReturnsTheResultAndLeavesTheWindow) {
+  RecordingWindow dialog(window.get());
+  Later([&] { dialog.EndModal(); });
+  EXPECT_EQ(dialog.RunModal(), 0);
+  EXPECT_FALSE(dialog.IsClosed());
+  EXPECT_EQ(dialog.closings, 0);
+  Later([&] {
+    dialog.SetResult(7);
+    dialog.EndModal();
+  });
+  EXPECT_EQ(dialog.RunModal(), 7);
+  Later([&] { dialog.EndModal(); });
+  EXPECT_EQ(dialog.RunModal(), 0) << "the result is cleared at the start";
+}
+
+TEST_F(HXWindowModalTest, CloseEndsTheRunWithWhatTheDialogHasSet) {
+  RecordingWindow dialog(window.get());
+  Later([&] {
+    dialog.SetResult(0);
+    dialog.Close();
+  });
+  EXPECT_EQ(dialog.RunModal(), 0);
+}
+
+TEST_F(HXWindowModalTest, EndModalWithoutARunDoesNothing) {
+  RecordingWindow dialog(window.get());
+  dialog.EndModal();
+  EXPECT_FALSE(dialog.IsClosed());
+  Later([&] {
+    window->EndModal();
+    EXPECT_EQ([NSApp modalWindow], Native(dialog));
+    dialog.EndModal();
+    dialog.EndModal();
+  });
+  EXPECT_EQ(dialog.RunModal(), 0);
+}
+
+TEST_F(HXWindowModalTest, RefusedCloseKeepsRunning) {
+  RecordingWindow dialog(window.get());
+  dialog.canClose = false;
+  bool stillRunning = false;
+  Later([&] {
+    PressCloseButton(dialog);
+    Later([&] {
+      stillRunning = [Native(dialog) isVisible] && [NSApp modalWindow] == Native(dialog);
+      dialog.EndModal();
+    });
+  });
+  EXPECT_EQ(dialog.RunModal(), 0);
+  EXPECT_TRUE(stillRunning);
+  EXPECT_EQ(dialog.closeRequests, 1);
+}
+
+TEST_F(HXWindowModalTest, ParentIsDisabledMeanwhile) {
+  RecordingWindow dialog(window.get());
+  bool enabledInside = true;
+  Later([&] {
+    enabledInside = window->IsEnabled();
+    dialog.EndModal();
+  });
+  dialog.RunModal();
+  EXPECT_FALSE(enabledInside);
+  EXPECT_TRUE(window->IsEnabled());
+}
+
+TEST_F(HXWindowModalTest, RunsWithoutAParent) {
+  RecordingWindow dialog;
+  Later([&] { dialog.EndModal(); });
+  EXPECT_EQ(dialog.RunModal(), 0);
+}
+
+TEST_F(HXWindowModalTest, TimersFireInsideAndMayEndTheRun) {
+  RecordingWindow dialog(window.get());
+  HXCocoaTimer timer;
+  timer.SetOwner(&dialog, 3);
+  dialog.onTimer = [&] {
+    if (dialog.timers.size() == 3) dialog.EndModal();
+  };
+  timer.Start(1, false);
+  dialog.RunModal();
+  EXPECT_THAT(dialog.timers, ElementsAre(3, 3, 3));
+}
+
+TEST_F(HXWindowModalTest, RunThatATimerEndsWaitsForNoFurtherInput) {
+  RecordingWindow dialog(window.get());
+  HXCocoaTimer ending;
+  HXCocoaTimer late;
+  ending.SetOwner(&dialog, 1);
+  late.SetOwner(&dialog, 2);
+  dialog.onTimer = [&] { dialog.EndModal(); };
+  // By then the events of the dialog's appearance are over.
+  ending.Start(300, true);
+  late.Start(5000, true);
+  dialog.RunModal();
+  EXPECT_THAT(dialog.timers, ElementsAre(1));
+}
+
+TEST_F(HXWindowModalTest, DialogIsDrawnAndClickedInside) {
+  RecordingWindow dialog(window.get());
+  RecordingOwner owner;
+  auto* button = new RecordingPanel(&dialog, {10, 10}, {50, 20});
+  button->SetHook(&owner, &RecordingOwner::OnEvent, 1);
+  owner.action = [&] {
+    if (owner.events.back() == kLeftUp) dialog.EndModal();
+  };
+  Later([&] {
+    Post(Key(dialog, @"x"));
+    Click(*button, {5, 5});
+  });
+  dialog.RunModal();
+  EXPECT_THAT(owner.events, ElementsAre(1, 2));
+  EXPECT_GE(button->draws, 1);
+}
+
+TEST_F(HXWindowModalTest, RunsNest) {
+  RecordingWindow outer(window.get());
+  int innerResult = -1;
+  bool outerDisabled = false;
+  Later([&] {
+    RecordingWindow inner(&outer);
+    Later([&] {
+      outerDisabled = !outer.IsEnabled();
+      EXPECT_EQ([NSApp modalWindow], Native(inner));
+      PressCloseButton(inner);
+    });
+    innerResult = inner.RunModal();
+    EXPECT_EQ([NSApp modalWindow], Native(outer));
+    EXPECT_TRUE(outer.IsEnabled());
+    outer.SetResult(5);
+    outer.EndModal();
+  });
+  EXPECT_EQ(outer.RunModal(), 5);
+  EXPECT_EQ(innerResult, 1);
+  EXPECT_TRUE(outerDisabled);
+}
+
+TEST_F(HXWindowModalTest, EndingTheOuterRunWaitsForTheInnerOne) {
+  RecordingWindow outer(window.get());
+  bool innerWentOn = false;
+  Later([&] {
+    RecordingWindow inner(&outer);
+    Later([&] {
+      outer.SetResult(9);
+      outer.EndModal();
+      Later([&] {
+        innerWentOn = [NSApp modalWindow] == Native(inner);
+        inner.EndModal();
+      });
+    });
+    inner.RunModal();
+  });
+  EXPECT_EQ(outer.RunModal(), 9);
+  EXPECT_TRUE(innerWentOn);
+}
+
+TEST_F(HXWindowModalTest, OuterDialogThatIsClosedMeanwhileStaysClosed) {
+  RecordingWindow outer(window.get());
+  Later([&] {
+    RecordingWindow inner(&outer);
+    Later([&] {
+      outer.Close();
+      Later([&] { inner.EndModal(); });
+    });
+    inner.RunModal();
+  });
+  outer.RunModal();
+  EXPECT_FALSE([Native(outer) isVisible]);
+}
+
+TEST_F(HXWindowModalTest, DialogMayBeDeletedInsideItsRun) {
+  for (const bool withTimer : {false, true}) {
+    auto* dialog = new RecordingWindow(window.get());
+    bool gone = false;
+    dialog->onDestruction = [&] { gone = true; };
+    HXCocoaTimer timer;
+    timer.SetOwner(dialog, 1);
+    dialog->onTimer = [dialog] { delete dialog; };
+    if (withTimer) {
+      timer.Start(1, true);
+    } else {
+      Later([dialog] { delete dialog; });
+    }
+    EXPECT_EQ(dialog->RunModal(), 0);
+    EXPECT_TRUE(gone);
+    EXPECT_TRUE(window->IsEnabled());
+  }
+}
+
+TEST_F(HXWindowModalTest, DialogMayBeDeletedByItsOwnButton) {
+  auto* dialog = new RecordingWindow(window.get());
+  auto* button = new RecordingPanel(dialog, {10, 10}, {50, 20});
+  RecordingOwner owner;
+  button->SetHook(&owner, &RecordingOwner::OnEvent, 1);
+  owner.action = [&] {
+    if (owner.events.back() == kLeftUp) delete dialog;
+  };
+  // Queued, so that the modal session itself delivers them.
+  Later([&] {
+    const NSPoint location = [button->GetNativeView() convertPoint:NSMakePoint(5, 5) toView:nil];
+    PostMouse(NSLeftMouseDown, *dialog, location);
+    PostMouse(NSLeftMouseUp, *dialog, location);
+  });
+  EXPECT_EQ(dialog->RunModal(), 0);
+  EXPECT_THAT(owner.events, ElementsAre(1, 2));
+  EXPECT_TRUE(window->GetChildren().empty());
+}
+
+TEST_F(HXWindowModalTest, DialogMayBeDeletedInItsOnClose) {
+  auto* dialog = new RecordingWindow(window.get());
+  dialog->onClose = [dialog] { delete dialog; };
+  Later([dialog] { PressCloseButton(*dialog); });
+  EXPECT_EQ(dialog->RunModal(), 0);
+  EXPECT_TRUE(window->GetChildren().empty());
+}
+
+TEST_F(HXWindowModalTest, ParentMayBeDeletedInsideTheRun) {
+  auto parent = std::make_unique<RecordingWindow>();
+  parent->SetVisible(true);
+  auto* dialog = new RecordingWindow(parent.get());
+  Later([&] { parent.reset(); });
+  EXPECT_EQ(dialog->RunModal(), 0);
+  EXPECT_EQ(parent, nullptr);
+}
+
+TEST_F(HXWindowModalTest, OuterDialogMayBeDeletedInsideTheInnerRun) {
+  auto* outer = new RecordingWindow(window.get());
+  bool innerEnded = false;
+  Later([&] {
+    RecordingWindow inner;
+    Later([&] {
+      delete outer;
+      Later([&] { inner.EndModal(); });
+    });
+    EXPECT_EQ(inner.RunModal(), 0);
+    innerEnded = true;
+  });
+  EXPECT_EQ(outer->RunModal(), 0);
+  EXPECT_TRUE(innerEnded);
+}
+
+TEST_F(HXWindowModalTest, WindowMayBeDeletedInADialogThatItsOwnButtonRuns) {
+  auto owned = std::make_unique<RecordingWindow>();
+  auto* button = new RecordingPanel(owned.get(), {10, 10}, {50, 20});
+  owned->SetVisible(true);
+  PumpUntil([&] { return owned->IsKeyWindow(); }, "the window to become key");
+  NSWindow* const native = Native(*owned);
+  bool aliveForItsEvent = false;
+  RecordingOwner owner;
+  button->SetHook(&owner, &RecordingOwner::OnEvent, 1);
+  owner.action = [&] {
+    if (owner.events.back() != kLeftUp) return;
+    RecordingWindow dialog;
+    Later([&] {
+      owned.reset();
+      Later([&] { dialog.EndModal(); });
+    });
+    dialog.RunModal();
+    aliveForItsEvent = [[NSApp windows] indexOfObjectIdenticalTo:native] != NSNotFound;
+  };
+  Click(*button, {5, 5});
+  EXPECT_EQ(owned, nullptr);
+  EXPECT_TRUE(aliveForItsEvent) << "the platform window is still serving the click";
+}
+
+TEST_F(HXWindowModalTest, EscapeThatNobodyHasAskedForDoesNotEndTheRun) {
+  RecordingWindow dialog(window.get());
+  bool stillRunning = false;
+  Later([&] {
+    [Native(dialog) makeFirstResponder:nil];
+    Post(Key(dialog, @"\033"));
+    Post(Key(dialog, @"\r"));
+    Later([&] {
+      Later([&] {
+        stillRunning = [NSApp modalWindow] == Native(dialog);
+        dialog.EndModal();
+      });
+    });
+  });
+  EXPECT_EQ(dialog.RunModal(), 0);
+  EXPECT_TRUE(stillRunning);
+}
+
+TEST_F(HXWindowModalTest, KeysReachTheDialogOnce) {
+  RecordingWindow dialog(window.get());
+  RecordingSink sink;
+  dialog.onKey = [&] { dialog.EndModal(); };
+  Later([&] { Post(Key(dialog, @"\033")); });
+  dialog.RunModal();
+  EXPECT_THAT(dialog.keys, ElementsAre(27));
+  EXPECT_EQ(sink.Count(kKeyDown), 1);
+}
+
+TEST_F(HXWindowModalTest, OtherWindowsAreDeafUnlessTheyWorkWhenModal) {
+  RecordingWindow usable(nullptr, HXWindow::kWorksWhenModal);
+  RecordingWindow deaf;
+  usable.Show();
+  deaf.Show();
+  RecordingWindow dialog(window.get());
+  dialog.onKey = [&] { dialog.EndModal(); };
+  Later([&] {
+    for (RecordingWindow* each : {&deaf, &usable, &dialog}) {
+      PostMouse(NSRightMouseDown, *each, NSMakePoint(20, 20));
+    }
+    Post(Key(dialog, @"x"));
+  });
+  dialog.RunModal();
+  EXPECT_THAT(dialog.kinds, ::testing::Contains(kRightDown));
+  EXPECT_THAT(usable.kinds, ::testing::Contains(kRightDown));
+  EXPECT_THAT(deaf.kinds, ::testing::Not(::testing::Contains(kRightDown)));
+}
+
+}  // namespace

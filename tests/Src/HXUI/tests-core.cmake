@@ -1,0 +1,17 @@
+# The tests of the widget tree, views, windows, threads and timers.
+set(HXUI_CORE_TESTS
+  HXCocoaTimerTest.mm
+  HXControlTest.mm
+  HXEventSinksTest.mm
+  HXLayoutTest.mm
+  HXMouseRouterTest.mm
+  HXMutexTest.mm
+  HXObjectGuardTest.mm
+  HXObjectTest.mm
+  HXPanelTest.mm
+  HXSemaphoreTest.mm
+  HXThreadTest.mm
+  HXViewMouseTest.mm
+  HXViewTest.mm
+  HXWindowModalTest.mm
+  HXWindowTest.mm)

@@ -1,0 +1,13 @@
+set(HXUI_TEXT_TESTS
+  ClipboardTest.mm
+  CursorShapeTest.mm
+  FilePanelsTest.mm
+  FileTypeFilterTest.cpp
+  HXTextBoxTest.mm
+  HXTextControlRichTextTest.mm
+  HXTextControlTest.mm
+  HXTextDelegateTest.mm
+  HXTextFieldTest.mm
+  KeyStateTest.mm
+  RtfFontTableTest.cpp
+  WorkspaceTest.mm)

@@ -1,0 +1,30 @@
+#include "tests/endtoend/Pointer.h"
+
+#include <X11/extensions/XTest.h>
+
+#include <cstdlib>
+
+void Pointer::MoveTo(int x, int y) const {
+  XTestFakeMotionEvent(display, DefaultScreen(display), x, y, CurrentTime);
+  XFlush(display);
+}
+
+void Pointer::Click() const {
+  Press();
+  Release();
+}
+
+void Pointer::TurnWheel(int notches) const {
+  constexpr unsigned kUp = 4;
+  constexpr unsigned kDown = 5;
+  const unsigned button = notches > 0 ? kUp : kDown;
+  for (int notch = 0; notch < std::abs(notches); ++notch) {
+    SetButton(button, true);
+    SetButton(button, false);
+  }
+}
+
+void Pointer::SetButton(unsigned button, bool down) const {
+  XTestFakeButtonEvent(display, button, down ? True : False, CurrentTime);
+  XFlush(display);
+}
