@@ -30,13 +30,18 @@ HXBrowserSearch::HXBrowserSearch(HXObject* parentObject, HXPoint position, HXSiz
     : HXPanel(parentObject, position, size),
       box(new HXBrowserSearchBox(this, {kIdleBoxX, kBoxY}, {size.width - 47, kBoxHeight}, text,
                                  flags | HXTextControl::kNoFocusRing)),
-      clearButton(new HXButton(this, {size.width - kClearInset, kBoxY}, kClearSize,
-                               kClearPng.bytes, kClearPng.length, false)),
+      clearButton(new HXButton(this, {size.width - kClearInset, kBoxY}, kClearSize, kClearPng.bytes,
+                               kClearPng.length, false)),
       icon(kSearchPng.bytes, kSearchPng.length) {
   box->SetChangeHandler(&HXBrowserSearch::OnBoxChange, this, 0);
   clearButton->SetHook(this, &HXBrowserSearch::OnClearButton, 0);
   clearButton->SetVisible(false);
   SetColor(kBackground);
+}
+
+HXBrowserSearch::~HXBrowserSearch() {
+  // Leaving the screen ends the editing; by then there is no strip to hear of it.
+  box->SetChangeHandler(nullptr, nullptr, 0);
 }
 
 std::string HXBrowserSearch::GetText() const { return box->GetText(); }

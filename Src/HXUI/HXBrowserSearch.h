@@ -23,6 +23,7 @@ class HXBrowserSearch : public HXPanel, public HXControl {
   /// field's `HXTextControl::Flags`, to which "no focus ring" is added.
   HXBrowserSearch(HXObject* parent, HXPoint position, HXSize size, const std::string& text,
                   std::uint32_t flags);
+  ~HXBrowserSearch() override;
 
   /// What the field holds: "Search..." while it is empty and idle.
   std::string GetText() const;

@@ -39,8 +39,9 @@ bool HXBrowserSearchBox::OnKeyDown(int key) {
 
 void HXBrowserSearchBox::OnEventSink(HXEventSinkRecord& record) {
   if (record.kind != kKeyUp || !HasFocus()) return;
+  // Return comes up as what it types, whatever command it stood for.
   const bool isEditingKey = record.parameter == kKeyTab || record.parameter == kKeyInsertNewline ||
-                            record.parameter == kKeyEscape;
+                            record.parameter == kKeyReturn || record.parameter == kKeyEscape;
   if (!isEditingKey) NotifyChange(this, kChangeDone);
 }
 

@@ -75,8 +75,7 @@ void HXColorDialog::BuildControls() {
 }
 
 HXControlFloat* HXColorDialog::MakeField(std::int32_t y, float* channel) {
-  auto* field =
-      new HXControlFloat(this, {kFieldX, y}, channel, HXFloatFormat::kInteger, 0, 255, 1);
+  auto* field = new HXControlFloat(this, {kFieldX, y}, channel, HXFloatFormat::kInteger, 0, 255, 1);
   field->SetChangeHandler(&HXColorDialog::OnFieldChange, this, 0);
   return field;
 }
@@ -224,8 +223,9 @@ bool HXColorDialog::ReadHexBox() {
   errno = 0;
   const long number = std::strtol(digits.c_str(), nullptr, 16);
   const auto packed = errno == ERANGE ? 0U : static_cast<unsigned long>(number);
-  const HXColor typed{static_cast<std::uint8_t>(packed >> 16), static_cast<std::uint8_t>(packed >> 8),
-                      static_cast<std::uint8_t>(packed), 255};
+  const HXColor typed{static_cast<std::uint8_t>(packed >> 16),
+                      static_cast<std::uint8_t>(packed >> 8), static_cast<std::uint8_t>(packed),
+                      255};
   if (typed == ChannelColor()) return false;
   SetChannels(typed);
   return true;

@@ -114,6 +114,17 @@ void HXObject::ReleaseMouse() {
   NativeView::SetCursorRectsEnabled(nativeView, true);
 }
 
+void HXObject::NotifyClose() {
+  const HXObjectGuard guard(this);
+  OnClose();
+  // Each call may add or delete children; going on by index skips none that stay.
+  for (std::size_t i = 0; guard.IsAlive() && i < children.size();) {
+    HXObject* child = children[i];
+    child->NotifyClose();
+    if (guard.IsAlive() && i < children.size() && children[i] == child) ++i;
+  }
+}
+
 void HXObject::GiveUpCapture() {
   HXObject* const owner = HXMouseRouter::GetCaptureOwner();
   for (const HXObject* object = owner; object != nullptr; object = object->parent) {

@@ -56,7 +56,7 @@ class HXObject {
   virtual void SetLayout(std::unique_ptr<HXLayout> newLayout);
   virtual void ExtraHook1();
   virtual void ExtraHook2();
-  /// The window is about to close.
+  /// The window that this widget is, or is in, is about to close.
   virtual void OnClose();
   /// A native text field of this widget got the keyboard.
   virtual void OnFocusGained();
@@ -161,6 +161,9 @@ class HXObject {
 
  protected:
   explicit HXObject(HXObject* parentObject);
+
+  /// Calls `OnClose` here and on everything below, parents first.
+  void NotifyClose();
 
   /// Ends the capture if this widget or one below it holds it: whoever leaves
   /// the screen must not keep the pointer.

@@ -120,6 +120,6 @@ bool HXWindow::CloseButtonPressed() {
 
 void HXWindow::WindowWillClose() {
   const HXObjectGuard guard(this);
-  OnClose();
+  NotifyClose();
   if (guard.IsAlive()) EndModal();
 }

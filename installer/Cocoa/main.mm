@@ -1,5 +1,6 @@
 #import <AppKit/AppKit.h>
 
+#include <csignal>
 #include <cstdio>
 
 #import "installer/Cocoa/InstallerAppDelegate.h"
@@ -28,6 +29,10 @@ int main(int argc, const char** argv) {
   NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
   RegisterDefaults();
   [NSApplication sharedApplication];
+  // GNUstep asks the user from within the signal's handler, where hardly
+  // anything is allowed. Whoever sends these wants the program to end.
+  std::signal(SIGTERM, SIG_DFL);
+  std::signal(SIGINT, SIG_DFL);
   InstallMainMenu();
   // The application does not retain its delegate; it ends with the process.
   [NSApp setDelegate:[[InstallerAppDelegate alloc] init]];

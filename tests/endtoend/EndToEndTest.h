@@ -34,7 +34,7 @@ class EndToEndTest : public testing::Test {
   void Start(User user = User::kRoot, std::vector<std::string> environment = {});
   /// Starts it on a furnished machine and goes to a page; at most to the summary.
   testing::AssertionResult StartOn(Page page);
-  MessageBox Box(const char* title) const { return MessageBox(desktop, pointer, title); }
+  MessageBox Box(const char* title) { return MessageBox(desktop, pointer, title); }
 
   /// Waits for the end; it has to come with `status`, and nothing may be left running.
   testing::AssertionResult Ends(int status = 0);

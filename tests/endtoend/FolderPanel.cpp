@@ -63,6 +63,6 @@ void FolderPanel::ClickAt(int x, int y) const {
   const std::optional<Area> content = window ? desktop.FindContent(*window) : std::nullopt;
   EXPECT_TRUE(content) << "the folder panel is not there";
   if (!content) return;
-  pointer.MoveTo(content->x + x, content->y + y);
+  pointer.MoveForClick(content->x + x, content->y + y);
   pointer.Click();
 }

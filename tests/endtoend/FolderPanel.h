@@ -9,7 +9,7 @@
 /// working directory of the installer; its right column lists the folders there.
 class FolderPanel {
  public:
-  FolderPanel(const Desktop& desktop, const Pointer& pointer) : desktop(desktop), pointer(pointer) {}
+  FolderPanel(const Desktop& desktop, Pointer& pointer) : desktop(desktop), pointer(pointer) {}
 
   testing::AssertionResult IsUp() const;
   testing::AssertionResult IsGone() const;
@@ -26,5 +26,5 @@ class FolderPanel {
   void ClickAt(int x, int y) const;
 
   const Desktop& desktop;
-  const Pointer& pointer;
+  Pointer& pointer;
 };

@@ -53,7 +53,7 @@ void MessageBox::Click(Button button) const {
   EXPECT_TRUE(content) << "\"" << title << "\" is not there";
   if (!content) return;
   const Area area = AreaOf(button, Look());
-  pointer.MoveTo(content->x + area.x + area.width / 2, content->y + area.y + area.height / 2);
+  pointer.MoveForClick(content->x + area.x + area.width / 2, content->y + area.y + area.height / 2);
   EXPECT_TRUE(WaitUntil([this, area] {
     const Picture picture = Look();
     return picture.IsInside(area.x + 4, area.y + 4) &&

@@ -17,7 +17,7 @@ class MessageBox {
   static constexpr const char* kNothingChosen = "Unable to continue";
   static constexpr const char* kError = "Unexpected error";
 
-  MessageBox(const Desktop& desktop, const Pointer& pointer, std::string title)
+  MessageBox(const Desktop& desktop, Pointer& pointer, std::string title)
       : desktop(desktop), pointer(pointer), title(std::move(title)) {}
 
   /// Waits until it is there, drawn, and has the keys; also that it is the only one.
@@ -32,6 +32,6 @@ class MessageBox {
   static Area AreaOf(Button button, const Picture& picture);
 
   const Desktop& desktop;
-  const Pointer& pointer;
+  Pointer& pointer;
   std::string title;
 };

@@ -4,12 +4,26 @@
 
 #include <cstdlib>
 
-void Pointer::MoveTo(int x, int y) const {
+void Pointer::MoveTo(int newX, int newY) {
+  x = newX;
+  y = newY;
   XTestFakeMotionEvent(display, DefaultScreen(display), x, y, CurrentTime);
   XFlush(display);
 }
 
-void Pointer::Click() const {
+void Pointer::MoveForClick(int newX, int newY) {
+  constexpr int kNear = 8;
+  const bool near = std::abs(newX - pressedX) < kNear && std::abs(newY - pressedY) < kNear;
+  MoveTo(near ? newX + 2 * kNear : newX, newY);
+}
+
+void Pointer::Press() {
+  pressedX = x;
+  pressedY = y;
+  SetButton(1, true);
+}
+
+void Pointer::Click() {
   Press();
   Release();
 }

@@ -8,10 +8,13 @@ class Pointer {
  public:
   explicit Pointer(_XDisplay* display) : display(display) {}
 
-  void MoveTo(int x, int y) const;
-  void Press() const { SetButton(1, true); }
-  void Release() const { SetButton(1, false); }
-  void Click() const;
+  void MoveTo(int x, int y);
+  /// To a place next to (x, y), far enough from the last press that the next one
+  /// cannot count as a double click.
+  void MoveForClick(int x, int y);
+  void Press();
+  void Release() { SetButton(1, false); }
+  void Click();
   /// Turns the wheel by notches: positive ones away from the person.
   void TurnWheel(int notches) const;
 
@@ -19,4 +22,8 @@ class Pointer {
   void SetButton(unsigned button, bool down) const;
 
   _XDisplay* display;
+  int x = 0;
+  int y = 0;
+  int pressedX = -1000;
+  int pressedY = -1000;
 };

@@ -27,7 +27,7 @@ class ScrollingTest : public EndToEndTest {
     return wizard.Shows({area.x, area.y, rest.width, rest.height}, expected);
   }
 
-  void DragThumb(Area bar, int distance) const {
+  void DragThumb(Area bar, int distance) {
     const auto [top, bottom] = ThumbIn(wizard.Look(), bar);
     const int grabbed = bar.y + (top + bottom) / 2;
     wizard.MoveTo(bar.x + 8, grabbed);
@@ -37,7 +37,7 @@ class ScrollingTest : public EndToEndTest {
     pointer.Release();
   }
 
-  void ExpectWheelAndThumbScroll(Area text, Area bar) const {
+  void ExpectWheelAndThumbScroll(Area text, Area bar) {
     const Picture first = Look(text);
     EXPECT_EQ(ThumbIn(wizard.Look(), bar).first, 0);
 

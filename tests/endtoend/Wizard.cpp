@@ -141,6 +141,9 @@ testing::AssertionResult Wizard::IsOn(Page page) const {
 
 testing::AssertionResult Wizard::GoTo(Page page) const {
   testing::AssertionResult result = IsOn(Page::kWelcome);
+  // When the first press and its release arrive together, GNUstep prepares itself for the mouse
+  // in between and then handles the release first. So that click goes where nothing is.
+  if (result) ClickAt(60, 150);
   if (result && page >= Page::kLicence) {
     Click(kNext);
     result = IsOn(Page::kLicence);
@@ -156,20 +159,30 @@ testing::AssertionResult Wizard::GoTo(Page page) const {
   return result;
 }
 
-void Wizard::MoveTo(int x, int y) const {
+std::optional<Area> Wizard::FindContent() const {
   const std::optional<WindowId> window = desktop.FindWindow(kTitle);
   const std::optional<Area> content = window ? desktop.FindContent(*window) : std::nullopt;
   EXPECT_TRUE(content) << "the wizard's window is not there";
+  return content;
+}
+
+void Wizard::MoveTo(int x, int y) const {
+  const std::optional<Area> content = FindContent();
   if (content) pointer.MoveTo(content->x + x, content->y + y);
 }
 
+void Wizard::MoveForClick(int x, int y) const {
+  const std::optional<Area> content = FindContent();
+  if (content) pointer.MoveForClick(content->x + x, content->y + y);
+}
+
 void Wizard::ClickAt(int x, int y) const {
-  MoveTo(x, y);
+  MoveForClick(x, y);
   pointer.Click();
 }
 
 void Wizard::Click(Area button) const {
-  MoveTo(button.x + button.width / 2, button.y + button.height / 2);
+  MoveForClick(button.x + button.width / 2, button.y + button.height / 2);
   EXPECT_TRUE(WaitUntil([this, button] {
     const Picture picture = Look();
     if (picture.width != 500) return false;

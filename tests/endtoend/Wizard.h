@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 #include "tests/endtoend/Picture.h"
@@ -37,7 +38,7 @@ class Wizard {
   static constexpr Area kSummaryText{180, 110, 283, 190};
   static constexpr Area kSummaryBar{463, 110, 17, 190};
 
-  Wizard(const Desktop& desktop, const Pointer& pointer) : desktop(desktop), pointer(pointer) {}
+  Wizard(const Desktop& desktop, Pointer& pointer) : desktop(desktop), pointer(pointer) {}
 
   /// Whether keys go to it; a click on a window without them would only bring them there.
   bool IsActive() const;
@@ -72,7 +73,10 @@ class Wizard {
 
  private:
   const Desktop& desktop;
-  const Pointer& pointer;
+  Pointer& pointer;
+
+  void MoveForClick(int x, int y) const;
+  std::optional<Area> FindContent() const;
 };
 
 void PrintTo(Wizard::Page page, std::ostream* stream);

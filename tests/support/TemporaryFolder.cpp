@@ -4,12 +4,23 @@
 #include <stdlib.h>
 #include <sys/stat.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
-TemporaryFolder::TemporaryFolder()
-    : path((std::filesystem::temp_directory_path() / "support-XXXXXX").string()) {
+namespace {
+
+/// Where other users can get to, which the place for everyday temporary files
+/// need not be.
+std::filesystem::path ParentFolder() {
+  const char* named = std::getenv("TEST_TMPDIR");
+  return named != nullptr ? std::filesystem::path(named) : std::filesystem::temp_directory_path();
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() : path((ParentFolder() / "support-XXXXXX").string()) {
   EXPECT_NE(mkdtemp(path.data()), nullptr);
 }
 

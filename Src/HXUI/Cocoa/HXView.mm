@@ -21,6 +21,13 @@ unichar KeyOf(NSEvent* event) {
   return [characters length] > 0 ? [characters characterAtIndex:0] : 0;
 }
 
+/// 120 units a line, cut to an integer. Less than two units is a finger resting
+/// on the wheel, not a turn.
+std::int64_t WheelUnits(double lines) {
+  const double units = lines * 120.0;
+  return units > -2.0 && units < 2.0 ? 0 : static_cast<std::int64_t>(units);
+}
+
 NSArray* DroppedPaths(id<NSDraggingInfo> dragging) {
   NSPasteboard* pasteboard = [dragging draggingPasteboard];
   if (![[pasteboard types] containsObject:NSFilenamesPboardType]) return nil;
@@ -195,7 +202,7 @@ NSArray* DroppedPaths(id<NSDraggingInfo> dragging) {
 
 - (void)scrollWheel:(NSEvent*)event {
   [[self retain] autorelease];
-  [self sendToEventSink:kWheel param:static_cast<std::int64_t>([event deltaY] * 120.0)];
+  [self sendToEventSink:kWheel param:WheelUnits([event deltaY])];
 }
 
 - (void)keyDown:(NSEvent*)event {

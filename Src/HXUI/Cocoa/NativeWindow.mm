@@ -2,6 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <cmath>
+
 #include "Src/HXUI/Cocoa/Conversions.h"
 #import "Src/HXUI/Cocoa/HXTopWindow.h"
 #import "Src/HXUI/Cocoa/HXView.h"
@@ -119,7 +121,12 @@ void NativeWindow::SetVisible(NSWindow* window, bool show) {
 
 void NativeWindow::OrderFront(NSWindow* window) { [window orderFront:nil]; }
 void NativeWindow::SetAlpha(NSWindow* window, float alpha) { [window setAlphaValue:alpha]; }
-void NativeWindow::Center(NSWindow* window) { [window center]; }
+void NativeWindow::Center(NSWindow* window) {
+  [window center];
+  // A window of odd size would stand on half pixels, and points with it.
+  const NSPoint origin = [window frame].origin;
+  [window setFrameOrigin:NSMakePoint(std::floor(origin.x), std::floor(origin.y))];
+}
 void NativeWindow::Zoom(NSWindow* window) { [window zoom:nil]; }
 bool NativeWindow::IsZoomed(NSWindow* window) { return [window isZoomed] == YES; }
 

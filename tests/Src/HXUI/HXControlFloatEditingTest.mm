@@ -278,6 +278,16 @@ TEST_F(HXControlFloatEditingTest, GrowsWithTheTypedText) {
   expectFitted("1234567890");
 }
 
+TEST_F(HXControlFloatEditingTest, CanBeDeletedWhileItIsTypedInto) {
+  Make()->BeginEdit();
+  Type(@"8");
+  delete field;
+  field = nullptr;
+  Pump();
+  EXPECT_EQ(number, 50);
+  EXPECT_TRUE(owner.changes.empty());
+}
+
 TEST_F(HXControlFloatEditingTest, SurvivesItsDeletionInEitherNotification) {
   for (const int when : {kChangeBegins, kChangeDone}) {
     Make();

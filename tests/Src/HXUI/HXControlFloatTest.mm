@@ -60,10 +60,13 @@ class HXControlFloatTest : public ControlFloatFixture {
     return number - before;
   }
 
-  std::string OnScreen(HXPoint point) {
-    const HXPoint screen = field->ClientToScreen(point);
-    const auto height = static_cast<int>([[NSScreen mainScreen] frame].size.height);
-    return std::to_string(screen.x) + " " + std::to_string(height - screen.y);
+  /// Moves the pointer as the user would. In the X window's own coordinates:
+  /// its place on the screen is known only when the window manager has told it.
+  void MoveRealPointer(HXPoint point) {
+    const HXPoint offset = window->GetOffsetOf(*field);
+    const auto xWindow = reinterpret_cast<std::uintptr_t>([NativeWindow() windowRef]);
+    Do("mousemove --window " + std::to_string(xWindow) + " " + std::to_string(offset.x + point.x) +
+       " " + std::to_string(offset.y + point.y));
   }
 };
 
@@ -306,12 +309,10 @@ TEST_F(HXControlFloatTest, ShiftTriplesTheStepAndCommandTakesAFifth) {
 
 TEST_F(HXControlFloatTest, ARealPointerDragsBeyondTheField) {
   Make(0, 0, 0);
-  Draw(*window);
-  Do("mousemove " + OnScreen({5, 9}));
-  Pump();
+  MoveRealPointer({5, 9});
   Do("mousedown 1");
   PumpUntil([&] { return field->HasMouseCapture(); }, "the press");
-  Do("mousemove " + OnScreen({65, 9}));
+  MoveRealPointer({65, 9});
   PumpUntil([&] { return number != 50; }, "the drag");
   Do("mouseup 1");
   PumpUntil([&] { return !field->HasMouseCapture(); }, "the release");

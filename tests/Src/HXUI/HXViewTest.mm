@@ -99,7 +99,7 @@ TEST_F(HXViewTest, WheelReachesSinksOnlyAs120PerLine) {
   };
   RecordingSink sink;
   for (const Turn turn : {Turn{0.5, 60}, Turn{1, 120}, Turn{-3, -360}, Turn{0.99, 118},
-                          Turn{-0.99, -118}, Turn{0.001, 0}, Turn{-0.001, 0}}) {
+                          Turn{-0.99, -118}, Turn{0.02, 2}, Turn{0.01, 0}, Turn{-0.01, 0}}) {
     sink.records.clear();
     SendWheel(*panel, {5, 5}, turn.lines);
     ASSERT_EQ(sink.records.size(), 1U) << turn.lines;

@@ -337,6 +337,19 @@ TEST_F(HXWindowTest, WrappedWindowIsNeitherClosedNorReleased) {
 
 // Deletion in callbacks
 
+TEST_F(HXWindowTest, ClosingIsToldToEveryWidgetInTheWindow) {
+  auto* outer = new RecordingPanel(window.get(), {0, 0}, {50, 50});
+  auto* inner = new RecordingPanel(outer, {0, 0}, {20, 20});
+  auto* doomed = new RecordingPanel(window.get(), {50, 0}, {50, 50});
+  auto* last = new RecordingPanel(window.get(), {100, 0}, {50, 50});
+  doomed->onClose = [doomed] { delete doomed; };
+  window->Close();
+  EXPECT_EQ(outer->closes, 1);
+  EXPECT_EQ(inner->closes, 1);
+  EXPECT_EQ(last->closes, 1);
+  EXPECT_EQ(window->GetChildren(), (std::vector<HXObject*>{outer, last}));
+}
+
 TEST_F(HXWindowTest, WindowMayBeDeletedInItsOwnCallbacks) {
   using Bind = void (*)(RecordingWindow&, RecordingWindow::Action);
   const std::pair<const char*, Bind> bindings[] = {

@@ -3,8 +3,11 @@
 #import <AppKit/AppKit.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "Src/HXUI/HXTypes.h"
 
 /// Plays the user of a popup menu while the menu waits for one: moves the real
 /// pointer and posts the clicks, from within the menu's own event loop. Made
@@ -23,18 +26,22 @@ class MenuDriver {
   /// What the menu showed while it was open.
   std::vector<std::string> titles;
   std::vector<bool> ticks;
-  /// The menu's top left corner in screen coordinates (y upward).
-  NSPoint topLeft = NSZeroPoint;
   bool wasOpen = false;
 
   /// Run once while the menu is open, before anything is clicked.
   std::function<void()> whenOpen;
+
+  /// When set, nothing is clicked before the menu's top left corner lies within
+  /// a pixel of this point in screen coordinates (y upward). The platform tells
+  /// where a new window is only after some events.
+  std::optional<HXPoint> expectedTopLeft;
 
   /// Called by the timer.
   void Tick();
 
  private:
   void Record(NSMenuView* view);
+  bool StandsWhereExpected(NSMenuView* view) const;
   void ClickWhenReached(NSMenuView* view, NSInteger wanted);
 
   NSInteger index;

@@ -5,6 +5,8 @@
 // After GoogleTest: it defines names as macros that GoogleTest uses.
 #include <X11/Xlib.h>
 
+#include <cmath>
+
 #include "Src/HXUI/Cocoa/Conversions.h"
 
 @interface MenuDriverTarget : NSObject {
@@ -94,11 +96,12 @@ void MenuDriver::Tick() {
     return;
   }
   if (--ticksLeft == 0) {
-    ADD_FAILURE() << "the menu did not close";
+    ADD_FAILURE() << "the menu did not close, or did not stand where expected";
+    expectedTopLeft.reset();
     clicked = false;
     index = kOutside;
   }
-  if (clicked) return;
+  if (clicked || !StandsWhereExpected(view)) return;
   NSMenuView* submenuView = [[[view menu] attachedMenu] menuRepresentation];
   if (subIndex != kOutside && submenuView != nil && [[submenuView window] isVisible]) {
     ClickWhenReached(submenuView, subIndex);
@@ -113,8 +116,13 @@ void MenuDriver::Record(NSMenuView* view) {
     titles.push_back(FromNative([item title]));
     ticks.push_back([item state] == NSOnState);
   }
+}
+
+bool MenuDriver::StandsWhereExpected(NSMenuView* view) const {
+  if (!expectedTopLeft) return true;
   const NSRect frame = [[view window] frame];
-  topLeft = NSMakePoint(NSMinX(frame), NSMaxY(frame));
+  return std::fabs(NSMinX(frame) - expectedTopLeft->x) <= 1 &&
+         std::fabs(NSMaxY(frame) - expectedTopLeft->y) <= 1;
 }
 
 void MenuDriver::ClickWhenReached(NSMenuView* view, NSInteger wanted) {

@@ -37,6 +37,10 @@ class RecordingPanel : public HXPanel {
     ++focusLosses;
     Run(onFocusLost);
   }
+  void OnClose() override {
+    ++closes;
+    Run(onClose);
+  }
   bool OnDropFile(const char* path) override {
     drops.emplace_back(path);
     const bool answer = acceptDrops;
@@ -55,6 +59,7 @@ class RecordingPanel : public HXPanel {
   int draws = 0;
   int sizeChanges = 0;
   int focusLosses = 0;
+  int closes = 0;
   bool passKeys = true;
   bool acceptDrops = true;
 
@@ -64,6 +69,7 @@ class RecordingPanel : public HXPanel {
   Action onMouse;
   Action onSize;
   Action onFocusLost;
+  Action onClose;
   Action onDrop;
   Action onTimer;
 

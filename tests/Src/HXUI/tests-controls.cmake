@@ -11,6 +11,7 @@ set(HXUI_CONTROL_TESTS
   HXMenuTest.mm
   HXMultiCheckBoxTest.mm
   HXPopupDialogTest.mm
+  HXScrollBarMouseTest.mm
   HXScrollBarTest.mm
   HXSystemButtonTest.mm
   HXTextPanelTest.mm

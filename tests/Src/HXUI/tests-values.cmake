@@ -9,3 +9,5 @@ set(HXUI_VALUE_TESTS
   HXControlFloatTest.mm
   HXFloatFormatTest.cpp
   HXHsvTest.cpp)
+# These go through millions of colours, which takes a while without it.
+set_source_files_properties(HXColorImagesTest.cpp HXHsvTest.cpp PROPERTIES COMPILE_OPTIONS -O2)
