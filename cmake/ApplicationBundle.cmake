@@ -1,6 +1,5 @@
 # Lays the installer out as the platform expects its applications, with every
 # resource inside, under the folder OSTREL_BUNDLE.
-set(OSTREL_BUNDLE "${PROJECT_BINARY_DIR}/OstrelInstaller.app")
 
 if(APPLE)
   set_target_properties(OstrelInstaller PROPERTIES MACOSX_BUNDLE ON

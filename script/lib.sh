@@ -47,8 +47,10 @@ has_display() {
 open_session() {
   session=$1
   mkdir -p "$session/tmp"
-  # GNUstep refuses a folder that others may use.
-  chmod 700 "$session/tmp"
+  # As open as the system's own: some tests act as another user in it. GNUstep
+  # makes a folder inside that is only for the one who runs it.
+  chmod 755 "$session"
+  chmod 1777 "$session/tmp"
   TMPDIR=$session/tmp
   export TMPDIR
 }

@@ -1,6 +1,8 @@
 #include "tests/endtoend/EndToEndTest.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iostream>
 
 std::unique_ptr<DisplayServer> EndToEndTest::server;
 
@@ -12,7 +14,8 @@ EndToEndTest::EndToEndTest()
     : desktop(server->name),
       pointer(desktop.Connection()),
       keyboard(desktop.Connection()),
-      wizard(desktop, pointer) {
+      wizard(desktop, pointer),
+      hand(server->name) {
   // Away from where windows come up, so that nothing is hovered by chance.
   pointer.MoveTo(0, 0);
 }
@@ -30,6 +33,8 @@ void EndToEndTest::TearDown() {
 }
 
 void EndToEndTest::Start(User user, std::vector<std::string> environment) {
+  // What the one before left running would be taken for something of this one.
+  application.reset();
   userData = ReadTree(machine.UserData());
   environment.push_back("DISPLAY=" + server->name);
   application = std::make_unique<Application>(machine, environment, user);

@@ -14,6 +14,7 @@
 #include "tests/endtoend/MessageBox.h"
 #include "tests/endtoend/Pointer.h"
 #include "tests/endtoend/Desktop.h"
+#include "tests/endtoend/UnsteadyHand.h"
 #include "tests/endtoend/Wizard.h"
 
 /// A test of the real installer: a machine of its own, and a display that the
@@ -55,4 +56,5 @@ class EndToEndTest : public testing::Test {
  private:
   static std::unique_ptr<DisplayServer> server;
   Tree userData;
+  UnsteadyHand hand;
 };

@@ -41,7 +41,7 @@ TEST_F(StartUpTest, LeavesTheSettingsOfTheUserAlone) {
   machine.Furnish();
   const Tree home = ReadTree(machine.Path("home"));
   Start();
-  ASSERT_TRUE(wizard.IsOn(Page::kWelcome));
+  ASSERT_TRUE(wizard.GoTo(Page::kWelcome));
   wizard.Click(Wizard::kCancel);
   ASSERT_TRUE(Box(MessageBox::kQuestion).IsUp());
   Box(MessageBox::kQuestion).Click(Button::kYes);

@@ -1,0 +1,226 @@
+#include "tests/gallery/GalleryTest.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <filesystem>
+
+#include "tests/endtoend/Waiting.h"
+#include "tests/gallery/Keys.h"
+
+namespace {
+
+/// Of the window.
+constexpr Area kView{130, 10, 760, 420};
+constexpr Area kValues{138, 468, 359, 160};
+constexpr int kValuesPitch = 14;
+constexpr Area kLog{523, 468, 359, 160};
+constexpr int kLogPitch = 15;
+constexpr Area kClearButton{832, 446, 50, 18};
+/// The label of the chosen view's button.
+constexpr Color kAccent{116, 200, 243};
+
+using Lines = std::vector<std::string>;
+
+std::string Join(const Lines& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += "\n  " + line;
+  return text;
+}
+
+}  // namespace
+
+std::unique_ptr<DisplayServer> GalleryTest::server;
+TextReader GalleryTest::reader;
+
+void GalleryTest::SetUpTestSuite() { server = std::make_unique<DisplayServer>(); }
+
+void GalleryTest::TearDownTestSuite() { server.reset(); }
+
+GalleryTest::GalleryTest()
+    : desktop(server->name), pointer(desktop.Connection()), keyboard(desktop.Connection()) {
+  pointer.MoveTo(0, 0);
+}
+
+void GalleryTest::SetUp() {
+  ChildProcess::Setup setup;
+  setup.command = {machine.Path("Downloads/Gallery.app/Gallery")};
+  setup.environment = machine.Environment();
+  setup.environment.push_back("DISPLAY=" + server->name);
+  setup.environment.emplace_back("PATH=/usr/local/bin:/usr/bin:/bin");
+  for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"}) {
+    const char* value = std::getenv(name);
+    if (value != nullptr) setup.environment.push_back(std::string(name) + "=" + value);
+  }
+  setup.folder = machine.path;
+  setup.errors = machine.Path("errors.log");
+  process = std::make_unique<ChildProcess>(setup);
+  orphans.Except(process->Id());
+
+  ASSERT_TRUE(IsUp(kTitle));
+  ASSERT_TRUE(WaitUntil([this] {
+    const Picture picture = Look();
+    return picture.width == 900 && picture.HasInk(kValues, kPanel) && picture.At(60, 600) == kPage;
+  }));
+  // When the first press and its release arrive together, GNUstep prepares itself for the mouse
+  // in between and then handles the release first. So that click goes where nothing is.
+  MoveTo(-70, 590);
+  pointer.Press();
+  pointer.Release();
+  TeachReader();
+}
+
+void GalleryTest::TearDown() {
+  if (HasFailure()) {
+    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    std::filesystem::create_directories(OSTREL_PICTURE_FOLDER);
+    desktop.Capture().Write(std::string(OSTREL_PICTURE_FOLDER) + "/" + test->test_suite_name() +
+                            "." + test->name() + ".png");
+  }
+  process.reset();
+  orphans.Kill();
+}
+
+void GalleryTest::TeachReader() {
+  static bool isTaught = false;
+  if (isTaught) return;
+  Show(kText);
+  constexpr std::size_t kPortion = 19;
+  for (std::size_t at = 0; at < TextReader::kAlphabet.size(); at += kPortion) {
+    const std::string letters = TextReader::kAlphabet.substr(at, kPortion);
+    ClickAt(200, 50);
+    TypeCommand("a");
+    Type(TextReader::Lesson(letters));
+    const Area line{kValues.x, kValues.y, kValues.width, TextReader::kLineHeight};
+    ASSERT_TRUE(WaitUntil([this, line, &letters] { return reader.Learn(Look(), line, letters); }))
+        << "the typed text is not seen among the values";
+  }
+  TypeCommand("a");
+  Type("Plain text");
+  isTaught = true;
+  ASSERT_TRUE(HasValue("plain", "Plain text"));
+}
+
+void GalleryTest::Show(View view) {
+  const int y = 29 + 32 * view;
+  const auto isChosen = [this, y] {
+    return Look().Count({20, y - 10, 90, 20}, [](Color color) { return color == kAccent; }) > 0;
+  };
+  MoveTo(65 - kView.x, y - kView.y);
+  pointer.Click();
+  ASSERT_TRUE(WaitUntil(isChosen)) << "view " << view << " does not come up";
+}
+
+Area GalleryTest::Content(const char* title) const {
+  const std::optional<WindowId> window = desktop.FindWindow(title);
+  const std::optional<Area> content = window ? desktop.FindContent(*window) : std::nullopt;
+  EXPECT_TRUE(content) << "\"" << title << "\" is not there";
+  return content.value_or(Area{});
+}
+
+void GalleryTest::MoveTo(int x, int y) {
+  const Area content = Content();
+  pointer.MoveTo(content.x + kView.x + x, content.y + kView.y + y);
+}
+
+void GalleryTest::ClickAt(int x, int y) {
+  const Area content = Content();
+  pointer.MoveForClick(content.x + kView.x + x, content.y + kView.y + y);
+  pointer.Click();
+}
+
+void GalleryTest::DoubleClickAt(int x, int y) {
+  MoveTo(x, y);
+  pointer.Click();
+  pointer.Click();
+}
+
+void GalleryTest::Drag(int fromX, int fromY, int toX, int toY) {
+  constexpr int kSteps = 10;
+  MoveTo(fromX, fromY);
+  pointer.Press();
+  for (int i = 1; i <= kSteps; ++i) {
+    MoveTo(fromX + (toX - fromX) * i / kSteps, fromY + (toY - fromY) * i / kSteps);
+  }
+  pointer.Release();
+}
+
+void GalleryTest::Type(const std::string& text) { TypeAnyText(desktop.Connection(), text); }
+
+void GalleryTest::ClearLog() {
+  MoveTo(kClearButton.x + 25 - kView.x, kClearButton.y + 9 - kView.y);
+  pointer.Click();
+  EXPECT_TRUE(LogIs({}));
+}
+
+Picture GalleryTest::Look(const char* title) const {
+  const std::optional<WindowId> window = desktop.FindWindow(title);
+  return window ? desktop.Capture(*window) : Picture();
+}
+
+Picture GalleryTest::LookAt(Area area) const {
+  return Look().Crop({kView.x + area.x, kView.y + area.y, area.width, area.height});
+}
+
+Lines GalleryTest::Values() const { return reader.Read(Look(), kValues, kValuesPitch); }
+
+Lines GalleryTest::Log() const {
+  Lines lines = reader.Read(Look(), kLog, kLogPitch);
+  for (std::string& line : lines) line.erase(0, std::min(line.size(), line.find("  ") + 2));
+  return lines;
+}
+
+std::string GalleryTest::Value(const std::string& name) const {
+  for (const std::string& line : Values()) {
+    // Some lines hold two values.
+    for (std::size_t at = 0; at < line.size();) {
+      const std::size_t end = std::min(line.size(), line.find(", format", at));
+      if (line.compare(at, name.size() + 3, name + " = ") == 0) {
+        return line.substr(at + name.size() + 3, end - at - name.size() - 3);
+      }
+      at = end + 2;
+    }
+  }
+  return {};
+}
+
+float GalleryTest::Number(const std::string& name) const {
+  return std::strtof(Value(name).c_str(), nullptr);
+}
+
+testing::AssertionResult GalleryTest::Judge(bool holds) const {
+  if (holds) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "values:" << Join(Values()) << "\nlog:" << Join(Log());
+}
+
+testing::AssertionResult GalleryTest::HasValue(const std::string& name,
+                                               const std::string& value) const {
+  return Judge(WaitUntil([this, &name, &value] { return Value(name) == value; }));
+}
+
+testing::AssertionResult GalleryTest::LogEndsWith(const Lines& lines) const {
+  return Judge(WaitUntil([this, &lines] {
+    const Lines shown = Log();
+    return shown.size() >= lines.size() && std::equal(lines.rbegin(), lines.rend(), shown.rbegin());
+  }));
+}
+
+testing::AssertionResult GalleryTest::LogIs(const Lines& lines) const {
+  return Judge(WaitUntil([this, &lines] { return Log() == lines; }));
+}
+
+testing::AssertionResult GalleryTest::IsUp(const char* title) const {
+  const bool isUp = WaitUntil([this, title] {
+    const std::optional<WindowId> window = desktop.FindWindow(title);
+    return window && desktop.IsActive(*window);
+  });
+  if (isUp) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "\"" << title << "\" is not up";
+}
+
+testing::AssertionResult GalleryTest::IsGone(const char* title) const {
+  if (WaitUntil([this, title] { return desktop.FindWindows(title).empty(); })) {
+    return testing::AssertionSuccess();
+  }
+  return testing::AssertionFailure() << "\"" << title << "\" is still up";
+}

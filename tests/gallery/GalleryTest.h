@@ -1,0 +1,101 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/ChildProcess.h"
+#include "tests/endtoend/Desktop.h"
+#include "tests/endtoend/DisplayServer.h"
+#include "tests/endtoend/Keyboard.h"
+#include "tests/endtoend/Machine.h"
+#include "tests/endtoend/Orphans.h"
+#include "tests/endtoend/Pointer.h"
+#include "tests/gallery/TextReader.h"
+
+/// A test of the real gallery under real events, on a display that the tests of a
+/// suite share. What it did is read where a person reads it: in its window, below
+/// the controls. Positions are pixels of the shown view unless said otherwise.
+class GalleryTest : public testing::Test {
+ protected:
+  enum View {
+    kButtons,
+    kChoices,
+    kNumbers,
+    kText,
+    kSearch,
+    kColours,
+    kScrolling,
+    kPointer,
+    kDialogs
+  };
+
+  static constexpr const char* kTitle = "Gallery";
+  static constexpr Color kPanel{30, 30, 30};
+  static constexpr Color kPage{70, 70, 70};
+
+  static void SetUpTestSuite();
+  static void TearDownTestSuite();
+  GalleryTest();
+  /// Starts the gallery and waits until it takes clicks.
+  void SetUp() override;
+  void TearDown() override;
+
+  /// Chooses a view by its button; fails the test when it does not come up.
+  void Show(View view);
+
+  void MoveTo(int x, int y);
+  void ClickAt(int x, int y);
+  void DoubleClickAt(int x, int y);
+  /// Presses at the first place, goes there step by step as a hand does, and
+  /// lets go.
+  void Drag(int fromX, int fromY, int toX, int toY);
+  /// Types ASCII.
+  void Type(const std::string& text);
+  /// Holds Command.
+  void TypeCommand(const std::string& key) { keyboard.TypeWith("Alt_L", key); }
+  void ClearLog();
+
+  /// The window's content, or that of another window; empty when it is not there.
+  Picture Look(const char* title = kTitle) const;
+  /// The part of the present view.
+  Picture LookAt(Area area) const;
+  /// The bound values, one "name = value" a line.
+  std::vector<std::string> Values() const;
+  /// The last notifications, without their numbers.
+  std::vector<std::string> Log() const;
+  /// The value of `name`; "" when there is no such line.
+  std::string Value(const std::string& name) const;
+  float Number(const std::string& name) const;
+
+  /// These wait.
+  testing::AssertionResult HasValue(const std::string& name, const std::string& value) const;
+  testing::AssertionResult LogEndsWith(const std::vector<std::string>& lines) const;
+  testing::AssertionResult LogIs(const std::vector<std::string>& lines) const;
+  /// Waits for the window with this title to be there and to have the keys.
+  testing::AssertionResult IsUp(const char* title) const;
+  testing::AssertionResult IsGone(const char* title) const;
+
+  /// The content of the window, on the screen.
+  Area Content(const char* title = kTitle) const;
+
+  static const std::string& DisplayName() { return server->name; }
+
+  Machine machine;
+  Desktop desktop;
+  Pointer pointer;
+  Keyboard keyboard;
+
+ private:
+  void TeachReader();
+  /// The result of a wait, with what the gallery shows.
+  testing::AssertionResult Judge(bool holds) const;
+
+  static std::unique_ptr<DisplayServer> server;
+  static TextReader reader;
+
+  Orphans orphans;
+  std::unique_ptr<ChildProcess> process;
+};
