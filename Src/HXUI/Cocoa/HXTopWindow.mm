@@ -10,12 +10,20 @@
   return worksInModal;
 }
 
-- (BOOL)canBecomeKeyWindow {
-  return YES;
+- (void)close {
+  hasClosed = YES;
+  [super close];
 }
 
+- (BOOL)canBecomeKeyWindow {
+  return !hasClosed;
+}
+
+// GNUstep learns from the window manager which windows are left, and that
+// still names one that was closed a moment ago. The application would then not
+// notice that its last window has gone.
 - (BOOL)canBecomeMainWindow {
-  return YES;
+  return !hasClosed;
 }
 
 - (void)sendEvent:(NSEvent*)event {
