@@ -12,7 +12,9 @@ constexpr auto kLast = static_cast<float>(HXColorImages::kSide - 1);
 /// value times one of three factors that depend on the column alone.
 using Factors = std::array<float, HXColorImages::kSide>;
 
-unsigned char ToByte(float channel) { return static_cast<unsigned char>(static_cast<int>(channel * 255.0F)); }
+unsigned char ToByte(float channel) {
+  return static_cast<unsigned char>(static_cast<int>(channel * 255.0F));
+}
 
 void FillChannel(unsigned char* row, int channel, const Factors& factors, float value) {
   for (std::size_t x = 0; x < factors.size(); ++x) {

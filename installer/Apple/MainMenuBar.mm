@@ -1,3 +1,5 @@
 #include "installer/Cocoa/MainMenuBar.h"
 
-NSMenu* MakeMainMenuBar(NSString* title) { return [[[NSMenu alloc] initWithTitle:title] autorelease]; }
+NSMenu* MakeMainMenuBar(NSString* title) {
+  return [[[NSMenu alloc] initWithTitle:title] autorelease];
+}

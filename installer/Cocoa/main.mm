@@ -12,10 +12,9 @@ namespace {
 /// Where AppKit would show more than this application wants: as defaults only,
 /// so that what the user has chosen still counts.
 void RegisterDefaults() {
-  NSDictionary* defaults =
-      [NSDictionary dictionaryWithObjectsAndKeys:@"YES", @"GSSuppressAppIcon",
-                                                 @"NSMacintoshInterfaceStyle",
-                                                 @"NSMenuInterfaceStyle", nil];
+  NSDictionary* defaults = [NSDictionary dictionaryWithObjectsAndKeys:@"YES", @"GSSuppressAppIcon",
+                                                                      @"NSMacintoshInterfaceStyle",
+                                                                      @"NSMenuInterfaceStyle", nil];
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }
 

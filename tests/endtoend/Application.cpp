@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 
 #include "tests/endtoend/Waiting.h"
 
@@ -55,6 +56,12 @@ int Application::CountPipes() const {
     if (std::filesystem::read_symlink(entry.path(), error).string().starts_with("pipe:")) ++count;
   }
   return count;
+}
+
+std::string Application::Describe() {
+  const std::optional<int> status = process.ExitStatus();
+  return status ? "The installer has ended with " + std::to_string(*status) + ".\n"
+                : "The installer runs.\n";
 }
 
 std::string Application::Errors() const { return ReadWholeFile(errors); }

@@ -26,6 +26,8 @@ class Application {
   /// Pipes that the installer holds: it keeps one for each tool of a host that it
   /// has launched.
   int CountPipes() const;
+  /// Whether it runs, or how it ended; for people.
+  std::string Describe();
   /// What it wrote on standard error.
   std::string Errors() const;
 

@@ -52,7 +52,7 @@ std::optional<Window> Desktop::FindWindow(const std::string& title) const {
 }
 
 void Desktop::CollectWindows(Window parent, const std::string& title,
-                            std::vector<Window>* found) const {
+                             std::vector<Window>* found) const {
   Window root = None;
   Window grandparent = None;
   Window* children = nullptr;

@@ -37,7 +37,8 @@ class Desktop {
 
  private:
   Picture CaptureArea(Area area) const;
-  void CollectWindows(WindowId parent, const std::string& title, std::vector<WindowId>* found) const;
+  void CollectWindows(WindowId parent, const std::string& title,
+                      std::vector<WindowId>* found) const;
   std::string TitleOf(WindowId window) const;
   bool IsShown(WindowId window) const;
 

@@ -28,8 +28,8 @@ DisplayServer::DisplayServer() {
   EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
   ChildProcess::Setup setup;
   // Whoever the installer takes itself for, it may connect.
-  setup.command = {"Xvfb",   "-displayfd", "3",         "-screen", "0", "1024x768x24",
-                   "-dpi",   "96",         "-nolisten", "tcp",     "-ac"};
+  setup.command = {"Xvfb", "-displayfd", "3",         "-screen", "0",  "1024x768x24",
+                   "-dpi", "96",         "-nolisten", "tcp",     "-ac"};
   setup.environment = {kPath};
   setup.errors = folder.Path("server.log");
   setup.inherited = ends[1];

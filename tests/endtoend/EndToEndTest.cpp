@@ -27,7 +27,7 @@ void EndToEndTest::TearDown() {
     std::replace(name.begin(), name.end(), '/', '-');
     std::filesystem::create_directories(OSTREL_PICTURE_FOLDER);
     desktop.Capture().Write(std::string(OSTREL_PICTURE_FOLDER) + "/" + name);
-    if (application) std::cerr << application->Errors();
+    if (application) std::cerr << application->Describe() << application->Errors();
   }
   application.reset();
 }

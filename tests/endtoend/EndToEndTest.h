@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "tests/endtoend/Application.h"
+#include "tests/endtoend/Desktop.h"
 #include "tests/endtoend/DisplayServer.h"
 #include "tests/endtoend/FolderPanel.h"
 #include "tests/endtoend/Keyboard.h"
 #include "tests/endtoend/Machine.h"
 #include "tests/endtoend/MessageBox.h"
 #include "tests/endtoend/Pointer.h"
-#include "tests/endtoend/Desktop.h"
 #include "tests/endtoend/UnsteadyHand.h"
 #include "tests/endtoend/Wizard.h"
 

@@ -62,9 +62,9 @@ TEST_F(FailureTest, NothingIsAskedWhileTheErrorIsShown) {
 
 // A tool is only ever run on whole paths, so one that is not makes its launch fail.
 TEST_F(FailureTest, CopyingThatCannotBeLaunchedForTheFirstHostChangesNothing) {
-  machine.Furnish();
-  std::filesystem::remove_all(machine.Path("Applications"));
+  machine.AddHost("Another Editor", "11.0", "XXXX");
   machine.Register();
+  machine.AddUserData();
   machine.SetPreferences(
       {{"13.5", "Plug-ins of 2015"}, {"16.0", machine.MakeFolder("Plug-ins of 2019")}});
   machine.MakeFolder("Plug-ins of 2015");

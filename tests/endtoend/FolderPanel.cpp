@@ -6,9 +6,10 @@ namespace {
 
 constexpr const char* kTitle = "Open";
 /// From the right and bottom edges, where the panel keeps its buttons.
-constexpr int kChooseX = 45;
-constexpr int kCancelX = 125;
+constexpr int kChooseX = 60;
+constexpr int kCancelX = 175;
 constexpr int kButtonY = 20;
+constexpr Color kPaper{170, 170, 170};
 constexpr int kFirstRowY = 105;
 constexpr int kRowHeight = 15;
 constexpr int kRightColumnX = 280;
@@ -24,9 +25,9 @@ testing::AssertionResult FolderPanel::IsUp() const {
   const bool shown = WaitUntil([this] {
     const std::optional<WindowId> window = desktop.FindWindow(kTitle);
     if (!window || !desktop.IsActive(*window)) return false;
-    // The title bars of the columns are dark once they are drawn.
     const Picture picture = desktop.Capture(*window);
-    return picture.width > 300 && picture.At(200, 82) == Color{85, 85, 85};
+    const Area all{0, 0, picture.width, picture.height};
+    return picture.CountPaper(all, kPaper) > picture.width * picture.height / 2;
   });
   if (shown) return testing::AssertionSuccess();
   return testing::AssertionFailure() << "the folder panel is not up";
@@ -44,9 +45,7 @@ testing::AssertionResult FolderPanel::Changes(const Picture& before) const {
   return testing::AssertionFailure() << "the folder panel takes no notice";
 }
 
-void FolderPanel::ClickRow(int row) const {
-  ClickAt(kRightColumnX, kFirstRowY + kRowHeight * row);
-}
+void FolderPanel::ClickRow(int row) const { ClickAt(kRightColumnX, kFirstRowY + kRowHeight * row); }
 
 void FolderPanel::ClickCancel() const {
   const Picture picture = Look();

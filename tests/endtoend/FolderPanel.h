@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/endtoend/Pointer.h"
 #include "tests/endtoend/Desktop.h"
+#include "tests/endtoend/Pointer.h"
 
 /// GNUstep's own panel in which the custom folder is chosen. It opens in the
 /// working directory of the installer; its right column lists the folders there.

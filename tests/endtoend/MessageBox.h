@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "tests/endtoend/Desktop.h"
 #include "tests/endtoend/Picture.h"
 #include "tests/endtoend/Pointer.h"
-#include "tests/endtoend/Desktop.h"
 
 /// One of the wizard's messages and questions, found by its title.
 class MessageBox {
@@ -20,7 +20,7 @@ class MessageBox {
   MessageBox(const Desktop& desktop, Pointer& pointer, std::string title)
       : desktop(desktop), pointer(pointer), title(std::move(title)) {}
 
-  /// Waits until it is there, drawn, and has the keys; also that it is the only one.
+  /// Waits until it is there, the only one of its kind, and drawn.
   testing::AssertionResult IsUp() const;
   /// Waits until no such window is left.
   testing::AssertionResult IsGone() const;

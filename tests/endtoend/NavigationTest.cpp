@@ -54,10 +54,10 @@ TEST_F(NavigationTest, ARefusedAgreementLeavesTheButtonsWideOnTheWelcomePage) {
   EXPECT_EQ(refused.At(152, 322), Wizard::kDisabledFace);
   EXPECT_EQ(refused.At(258, 348), Wizard::kDisabledFace);
   EXPECT_NE(refused.At(383, 348), Wizard::kDisabledFace);
-  EXPECT_TRUE(Wizard::Label(refused, Wizard::kWideNext)
-                  .LooksLike(Wizard::Label(welcome, Wizard::kNext)));
-  EXPECT_TRUE(Wizard::Label(refused, Wizard::kWideBack)
-                  .LooksLike(Wizard::Label(welcome, Wizard::kBack)));
+  EXPECT_TRUE(
+      Wizard::Label(refused, Wizard::kWideNext).LooksLike(Wizard::Label(welcome, Wizard::kNext)));
+  EXPECT_TRUE(
+      Wizard::Label(refused, Wizard::kWideBack).LooksLike(Wizard::Label(welcome, Wizard::kBack)));
 
   // Forward again the usual way, and the buttons are as they should be.
   wizard.Click(Wizard::kWideNext);
@@ -81,8 +81,8 @@ TEST_F(NavigationTest, TheAgreementHasItsOwnLabels) {
   EXPECT_GT(accept.width, Wizard::Label(welcome, Wizard::kNext).width);
   EXPECT_GT(refuse.width, accept.width + 20);
   EXPECT_LT(refuse.width, 110);
-  EXPECT_TRUE(Wizard::Label(licence, Wizard::kCancel)
-                  .LooksLike(Wizard::Label(welcome, Wizard::kCancel)));
+  EXPECT_TRUE(
+      Wizard::Label(licence, Wizard::kCancel).LooksLike(Wizard::Label(welcome, Wizard::kCancel)));
 }
 
 TEST_F(NavigationTest, BackDoesNothingWhileItIsDisabled) {

@@ -59,6 +59,9 @@ std::string Store(const std::string& bytes) {
 }  // namespace
 
 Picture Picture::Crop(Area area) const {
+  if (!IsInside(area.x, area.y) || !IsInside(area.x + area.width - 1, area.y + area.height - 1)) {
+    return {};
+  }
   Picture part(area.width, area.height);
   for (int y = 0; y < area.height; ++y) {
     for (int x = 0; x < area.width; ++x) part.At(x, y) = At(area.x + x, area.y + y);
@@ -98,9 +101,9 @@ void Picture::Write(const std::string& file) const {
   const std::string header = BigEndian(static_cast<std::uint32_t>(width)) +
                              BigEndian(static_cast<std::uint32_t>(height)) +
                              std::string("\x08\x02\0\0\0", 5);
-  std::ofstream(file, std::ios::binary) << "\x89PNG\r\n\x1A\n"
-                                        << Chunk("IHDR", header) << Chunk("IDAT", Store(lines))
-                                        << Chunk("IEND", "");
+  std::ofstream(file, std::ios::binary)
+      << "\x89PNG\r\n\x1A\n"
+      << Chunk("IHDR", header) << Chunk("IDAT", Store(lines)) << Chunk("IEND", "");
 }
 
 Lettering::Lettering(const Picture& picture, Area area, Color paper) {

@@ -35,7 +35,7 @@ class Picture {
   Color At(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
   bool IsInside(int x, int y) const { return x >= 0 && y >= 0 && x < width && y < height; }
 
-  /// The area must be inside.
+  /// Empty unless the area is inside.
   Picture Crop(Area area) const;
   int Count(Area area, const std::function<bool(Color)>& property) const;
   /// How many pixels of the area have, or have not, the colour `paper`.

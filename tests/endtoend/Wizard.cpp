@@ -88,7 +88,7 @@ Wizard::Page EndingPage(const Picture& picture) {
   return HasTextAt(picture, 95, 112) ? Wizard::Page::kFinish : Wizard::Page::kUnknown;
 }
 
-constexpr std::array<const char*, 7> kPageNames{"no page",      "welcome",  "agreement", "hosts",
+constexpr std::array<const char*, 7> kPageNames{"no page",     "welcome",  "agreement", "hosts",
                                                 "the summary", "progress", "finish"};
 constexpr std::array<const char*, 3> kRowNames{"absent", "unticked", "ticked"};
 
@@ -115,8 +115,8 @@ Wizard::Row Wizard::RowIn(const Picture& picture, int row) {
   const Area box{180, 115 + 25 * row, 14, 14};
   const Color edge = picture.At(box.x, box.y);
   if (edge != kBoxEdge && edge != kWhite) return Row::kAbsent;
-  const int mark = picture.Count({box.x + 2, box.y + 2, 10, 10},
-                                 [](Color color) { return color.green > 150; });
+  const int mark =
+      picture.Count({box.x + 2, box.y + 2, 10, 10}, [](Color color) { return color.green > 150; });
   return mark > 0 ? Row::kTicked : Row::kUnticked;
 }
 
@@ -207,8 +207,8 @@ testing::AssertionResult Wizard::Toggle(int row) const {
     return now != Row::kAbsent && now != before;
   });
   if (changed) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "row " << row << " is still "
-                                     << testing::PrintToString(before);
+  return testing::AssertionFailure()
+         << "row " << row << " is still " << testing::PrintToString(before);
 }
 
 testing::AssertionResult Wizard::Shows(Area area, const Picture& expected) const {
@@ -217,8 +217,8 @@ testing::AssertionResult Wizard::Shows(Area area, const Picture& expected) const
     return picture.width == 500 && picture.Crop(area) == expected;
   };
   if (WaitUntil(matches)) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "the area at " << area.x << ", " << area.y
-                                     << " looks different";
+  return testing::AssertionFailure()
+         << "the area at " << area.x << ", " << area.y << " looks different";
 }
 
 Lettering Wizard::Label(const Picture& picture, Area button) {

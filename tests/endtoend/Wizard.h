@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "tests/endtoend/Desktop.h"
 #include "tests/endtoend/Picture.h"
 #include "tests/endtoend/Pointer.h"
-#include "tests/endtoend/Desktop.h"
 
 /// The wizard's window as a person sees and uses it. Positions are pixels of the
 /// window's content, which is 500 by 360.

@@ -48,6 +48,9 @@ class GalleryTest : public testing::Test {
 
   void MoveTo(int x, int y);
   void ClickAt(int x, int y);
+  /// Clicks a field and waits for the caret; then selects all of its text.
+  void Focus(Area field);
+  void SelectAllIn(Area field);
   void DoubleClickAt(int x, int y);
   /// Presses at the first place, goes there step by step as a hand does, and
   /// lets go.
@@ -89,12 +92,14 @@ class GalleryTest : public testing::Test {
   Keyboard keyboard;
 
  private:
+  void Start();
   void TeachReader();
   /// The result of a wait, with what the gallery shows.
   testing::AssertionResult Judge(bool holds) const;
 
   static std::unique_ptr<DisplayServer> server;
   static TextReader reader;
+  static bool isReaderTaught;
 
   Orphans orphans;
   std::unique_ptr<ChildProcess> process;

@@ -7,8 +7,15 @@ namespace {
 /// Left of a bar's two inked columns in its own cell.
 constexpr int kBarBearing = 1;
 
+/// The font draws these two letters as one.
+constexpr char kLigature = 1;
+
+std::string Spell(char letter) { return letter == kLigature ? "fi" : std::string(1, letter); }
+
 bool IsBar(const Picture& picture, int x, int y) {
-  return picture.CountPaper({x, y, 1, TextReader::kLineHeight}, TextReader::kPaper) == 0;
+  constexpr int kFaint = 30;
+  const auto isInked = [](Color color) { return color.red > TextReader::kPaper.red + kFaint; };
+  return picture.Count({x, y, 1, TextReader::kLineHeight}, isInked) == TextReader::kLineHeight;
 }
 
 /// The first column of each bar. Letters have no column that is inked from top to bottom.
@@ -28,7 +35,9 @@ bool Fits(const Picture& glyph, const Picture& picture, int x, int y) {
   int difference = 0;
   for (int row = 0; row < glyph.height; ++row) {
     for (int column = 0; column < glyph.width; ++column) {
-      difference += std::abs(glyph.At(column, row).red - picture.At(x + column, y + row).red);
+      const int more = picture.At(x + column, y + row).red - glyph.At(column, row).red;
+      // The letter before may reach into the first column.
+      if (column > 0 || more < 0) difference += std::abs(more);
     }
   }
   return difference <= kTouch * glyph.width;
@@ -37,12 +46,12 @@ bool Fits(const Picture& glyph, const Picture& picture, int x, int y) {
 }  // namespace
 
 const std::string TextReader::kAlphabet =
-    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 =:,.()-#\"'&";
+    "\1abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 =:,.()-#\"'&";
 
 std::string TextReader::Lesson(const std::string& letters) {
   // The distance of the first two bars tells how wide a bar is.
   std::string text = "||";
-  for (const char letter : letters) text += std::string(1, letter) + "|";
+  for (const char letter : letters) text += Spell(letter) + "|";
   return text;
 }
 
@@ -77,9 +86,11 @@ std::string TextReader::ReadLine(const Picture& picture, Area line) const {
     const Area rest{x, line.y, line.x + line.width - x, line.height};
     if (!picture.HasInk(rest, kPaper)) break;
     const char letter = LetterAt(picture, x, line.y);
-    text += letter == 0 ? '?' : letter;
+    text += letter == 0 ? "?" : Spell(letter);
     x += letter == 0 ? 1 : glyphs.at(letter).width;
   }
+  // The last letter may reach beyond its width, which then looks like a blank.
+  while (text.ends_with(' ')) text.pop_back();
   return text;
 }
 
