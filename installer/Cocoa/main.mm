@@ -6,6 +6,7 @@
 #import "installer/Cocoa/InstallerAppDelegate.h"
 #include "installer/Cocoa/MainMenu.h"
 #include "installer/DisplayCheck.h"
+#include "installer/EventWait.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ int main(int argc, const char** argv) {
   std::signal(SIGTERM, SIG_DFL);
   std::signal(SIGINT, SIG_DFL);
   InstallMainMenu();
+  KeepEventsMoving();
   // The application does not retain its delegate; it ends with the process.
   [NSApp setDelegate:[[InstallerAppDelegate alloc] init]];
   const int status = NSApplicationMain(argc, argv);

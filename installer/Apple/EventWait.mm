@@ -1,0 +1,4 @@
+#include "installer/EventWait.h"
+
+// The platform wakes for every event.
+void KeepEventsMoving() {}
