@@ -10,6 +10,7 @@
 #include "Src/HXUI/Cocoa/KeyState.h"
 #include "Src/HXUI/HXColorImages.h"
 #include "Src/HXUI/HXControlFloat.h"
+#include "Src/HXUI/HXHsv.h"
 #include "Src/HXUI/HXObjectGuard.h"
 #include "Src/HXUI/HXSystemButton.h"
 #include "Src/HXUI/HXTextBox.h"
@@ -53,7 +54,7 @@ HXColorDialog::HXColorDialog(HXObject* owner, HXColor* editedColor)
   NotifyChange(this, kChangeBegins);
   SetChannels(initialColor);
   BuildControls();
-  hsv = ToHsv({red / kLast, green / kLast, blue / kLast});
+  SetHsvFrom(initialColor);
   hueBar.CreateEmpty({HXColorImages::kBarWidth, HXColorImages::kSide});
   HXColorImages::FillHueBar(hueBar.LockPixels()->GetData());
   squareImage.CreateEmpty({HXColorImages::kSide, HXColorImages::kSide});
@@ -65,8 +66,9 @@ HXColorDialog::HXColorDialog(HXObject* owner, HXColor* editedColor)
 void HXColorDialog::BuildControls() {
   AddButton(230, "OK", kOkCommand);
   AddButton(190, "Cancel", kCancelCommand);
-  fields = {MakeField(kFieldY[0], &red), MakeField(kFieldY[1], &green),
-            MakeField(kFieldY[2], &blue)};
+  redField = MakeField(kFieldY[0], &red);
+  greenField = MakeField(kFieldY[1], &green);
+  blueField = MakeField(kFieldY[2], &blue);
   hexBox = new HXTextBox(this, kHexPosition, kHexSize, "", HXTextControl::kNoFocusRing);
   hexBox->SetMaxLength(kHexDigits);
   hexBox->SetColor(kBlack);
@@ -166,7 +168,7 @@ bool HXColorDialog::BeginDrag(HXPoint point) {
 
 void HXColorDialog::ShowInitialColor() {
   SetChannels(initialColor);
-  for (HXControlFloat* field : fields) field->FitSize();
+  FitFields();
   Redraw();
 }
 
@@ -174,12 +176,12 @@ void HXColorDialog::PickAt(HXPoint point) {
   const float across = static_cast<float>(point.x - kSquareOrigin.x) / kLast;
   const float up = 1.0F - static_cast<float>(point.y - kSquareOrigin.y) / kLast;
   if (dragMode == kHueDrag) {
-    hsv.hue = std::clamp(up * 360.0F, 0.0F, 360.0F);
+    hue = std::clamp(up * 360.0F, 0.0F, 360.0F);
   } else {
-    hsv.saturation = std::clamp(across, 0.0F, 1.0F);
-    hsv.brightness = std::clamp(up, 0.0F, 1.0F);
+    saturation = std::clamp(across, 0.0F, 1.0F);
+    brightness = std::clamp(up, 0.0F, 1.0F);
   }
-  const HXRgb rgb = ToRgb(hsv);
+  const HXRgb rgb = ToRgb({hue, saturation, brightness});
   red = rgb.red * kLast;
   green = rgb.green * kLast;
   blue = rgb.blue * kLast;
@@ -187,7 +189,7 @@ void HXColorDialog::PickAt(HXPoint point) {
   if (!NotifyChange(this, kChangeStep)) return;
   FillSquare();
   SetHexText(*edited);
-  for (HXControlFloat* field : fields) field->FitSize();
+  FitFields();
   Redraw();
   RedrawNow();
   if (!HasMouseCapture() && !IsClosed()) CaptureMouse();
@@ -210,12 +212,11 @@ void HXColorDialog::Synchronise() {
   if (ChannelColor() != current) {
     *edited = ChannelColor();
     if (!NotifyChange(this, kChangeStep)) return;
-    hsv = ToHsv({static_cast<float>(edited->red) / kLast, static_cast<float>(edited->green) / kLast,
-                 static_cast<float>(edited->blue) / kLast});
+    SetHsvFrom(*edited);
     FillSquare();
     Redraw();
   }
-  for (HXControlFloat* field : fields) field->FitSize();
+  FitFields();
 }
 
 bool HXColorDialog::ReadHexBox() {
@@ -231,7 +232,12 @@ bool HXColorDialog::ReadHexBox() {
   return true;
 }
 
+void HXColorDialog::FitFields() {
+  for (HXControlFloat* field : Fields()) field->FitSize();
+}
+
 void HXColorDialog::MoveTyping(bool backward) {
+  const std::array<HXControlFloat*, 3> fields = Fields();
   std::size_t next = 0;
   for (std::size_t i = 0; i < fields.size(); ++i) {
     if (!fields[i]->IsEditing()) continue;
@@ -261,8 +267,20 @@ void HXColorDialog::SetHexText(HXColor newColor) {
   hexBox->SetText(text.data());
 }
 
+void HXColorDialog::SetHsvFrom(HXColor newColor) {
+  const HXHsv hsv =
+      ToHsv({static_cast<float>(newColor.red) / kLast, static_cast<float>(newColor.green) / kLast,
+             static_cast<float>(newColor.blue) / kLast});
+  hue = hsv.hue;
+  saturation = hsv.saturation;
+  brightness = hsv.brightness;
+}
+
 void HXColorDialog::FillSquare() {
-  HXColorImages::FillSquare(squareImage.LockPixels()->GetData(), hsv.hue);
+  // A drag inside the square changes nothing about it.
+  if (filledHue == hue) return;
+  filledHue = hue;
+  HXColorImages::FillSquare(squareImage.LockPixels()->GetData(), hue);
 }
 
 // Drawing
@@ -284,7 +302,7 @@ void HXColorDialog::DrawLabels(HXCocoaDC& dc) {
   dc.SetTextColor(kWhite);
   const std::array<const char*, 3> labels{"R:", "G:", "B:"};
   for (std::size_t i = 0; i < labels.size(); ++i) {
-    const HXPoint field = fields[i]->GetPosition();
+    const HXPoint field = Fields()[i]->GetPosition();
     dc.DrawText(labels[i], {field.x - 15, field.y + 2, 0, 0}, 0);
   }
   const HXPoint hex = hexBox->GetPosition();
@@ -310,13 +328,13 @@ void HXColorDialog::DrawSwatches(HXCocoaDC& dc) {
 }
 
 void HXColorDialog::DrawMarkers(HXCocoaDC& dc) {
-  const auto hueY = static_cast<std::int32_t>(kLast - hsv.hue * kLast / 360.0F) + 6;
+  const auto hueY = static_cast<std::int32_t>(kLast - hue * kLast / 360.0F) + 6;
   dc.SetStroke(kBlack, 2);
   dc.SetFillColor(kTransparent);
   dc.DrawRect({268, hueY, 29, 6});
 
-  const auto x = static_cast<std::int32_t>(hsv.saturation * kLast) + kSquareOrigin.x;
-  const auto y = static_cast<std::int32_t>((1.0F - hsv.brightness) * kLast) + kSquareOrigin.y;
-  dc.SetStroke(hsv.brightness < 0.5F ? kWhite : kBlack, 2);
+  const auto x = static_cast<std::int32_t>(saturation * kLast) + kSquareOrigin.x;
+  const auto y = static_cast<std::int32_t>((1.0F - brightness) * kLast) + kSquareOrigin.y;
+  dc.SetStroke(brightness < 0.5F ? kWhite : kBlack, 2);
   dc.DrawCircle({x, y}, 5, 0);
 }

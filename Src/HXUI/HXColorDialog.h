@@ -6,7 +6,6 @@
 
 #include "Src/HXUI/Cocoa/HXBitmap.h"
 #include "Src/HXUI/HXControl.h"
-#include "Src/HXUI/HXHsv.h"
 #include "Src/HXUI/HXTextBoxOwner.h"
 #include "Src/HXUI/HXWindow.h"
 
@@ -62,9 +61,13 @@ class HXColorDialog : public HXWindow, public HXControl, public HXTextBoxOwner {
   bool ReadHexBox();
   void MoveTyping(bool backward);
 
+  std::array<HXControlFloat*, 3> Fields() const { return {redField, greenField, blueField}; }
+  void FitFields();
   HXColor ChannelColor() const;
   void SetChannels(HXColor newColor);
   void SetHexText(HXColor newColor);
+  /// Takes hue, saturation and brightness from the colour.
+  void SetHsvFrom(HXColor newColor);
   void FillSquare();
 
   void DrawLabels(HXCocoaDC& dc);
@@ -74,13 +77,20 @@ class HXColorDialog : public HXWindow, public HXControl, public HXTextBoxOwner {
   HXColor initialColor;
   HXColor* edited;
   HXTextBox* hexBox = nullptr;
-  std::array<HXControlFloat*, 3> fields{};
+  HXControlFloat* redField = nullptr;
+  HXControlFloat* greenField = nullptr;
+  HXControlFloat* blueField = nullptr;
   float red = 0;
   float green = 0;
   float blue = 0;
-  HXHsv hsv;
+  /// In degrees, 0 to 360.
+  float hue = 0;
+  float saturation = 0;
+  float brightness = 0;
   HXBitmap hueBar;
   HXBitmap squareImage;
+  /// The hue that `squareImage` shows; none at first.
+  float filledHue = -1;
   DragMode dragMode = kNoDrag;
   bool accepted = false;
 };

@@ -185,6 +185,8 @@ void HXControlFloat::Press() {
 }
 
 void HXControlFloat::Drag() {
+  // Hidden in the middle of a drag, the field has lost the pointer.
+  if (dragging && !HasMouseCapture()) dragging = false;
   if (!dragging) return;
   const HXPoint pointer = GetMousePosition(true);
   if (pointer == lastPointer) return;

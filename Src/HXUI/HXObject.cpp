@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 #include "Src/HXUI/Cocoa/HXCocoaDC.h"
@@ -21,8 +22,9 @@ HXObject::~HXObject() {
   GiveUpCapture();
   HXObjectGuard::ObjectDestroyed(this);
   HXEventSinks::Remove(this);
-  // A child takes itself off the list.
-  while (!children.empty()) delete children.front();
+  // The first one first. Each takes itself off the list, which is cheap at its end only.
+  std::reverse(children.begin(), children.end());
+  while (!children.empty()) delete children.back();
   if (parent != nullptr) parent->RemoveChild(this);
   // The subclass is gone by now, and with it its own Close, which it has
   // called itself; this one covers subclasses that have none.
@@ -30,8 +32,8 @@ HXObject::~HXObject() {
 }
 
 void HXObject::RemoveChild(HXObject* child) {
-  const auto found = std::find(children.begin(), children.end(), child);
-  if (found != children.end()) children.erase(found);
+  const auto found = std::find(children.rbegin(), children.rend(), child);
+  if (found != children.rend()) children.erase(std::next(found).base());
   std::erase_if(anchors, [child](const Anchor& anchor) { return anchor.child == child; });
   if (layout) layout->RemoveWidget(child);
 }
@@ -52,6 +54,7 @@ void HXObject::SetMinSize(HXSize size) { minSize = size; }
 
 void HXObject::SetVisible(bool show) {
   visible = show;
+  if (!show) GiveUpCapture();
   NativeView::SetHidden(nativeView, !show);
 }
 

@@ -47,6 +47,8 @@ class HXObject {
   /// A stored value only; windows also impose it on the user's resizing.
   virtual HXSize GetMinSize() const;
   virtual void SetMinSize(HXSize size);
+  /// Hiding also takes the keyboard and the mouse capture from the widget and
+  /// everything below it.
   virtual void SetVisible(bool show);
   /// Takes the keyboard, unless the widget has it already.
   virtual void SetFocus();

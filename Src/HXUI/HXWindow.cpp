@@ -48,6 +48,7 @@ void HXWindow::SetMinSize(HXSize size) {
 
 void HXWindow::SetVisible(bool show) {
   visible = show;
+  if (!show) GiveUpCapture();
   NativeWindow::SetVisible(window, show);
 }
 
@@ -82,7 +83,8 @@ int HXWindow::RunModal() {
   result = 0;
   if (owner != nullptr) owner->SetEnabled(false);
 
-  void* const session = NativeWindow::BeginModal(window);
+  void* const session =
+      NativeWindow::BeginModal(window, owner == nullptr ? nullptr : owner->GetNativeView());
   while (guard.IsAlive() && modal) {
     // A stopped session serves no more events, so the run is over even when
     // nobody has closed the window.

@@ -2,6 +2,7 @@ set(HXUI_TEXT_SOURCES
   FileTypeFilter.cpp
   HXTextBox.cpp
   HXTextControl.cpp
+  RtfFields.cpp
   RtfFontTable.cpp
   Cocoa/Clipboard.mm
   Cocoa/CursorShape.mm

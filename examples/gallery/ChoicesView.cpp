@@ -52,9 +52,7 @@ void ChoicesView::BuildComboBoxes() {
   Watch(*wide, "Colour");
 
   AddCaption({400, 166}, "Unbound");
-  new HXComboBox(this, {560, 164}, "Nothing to choose", nullptr, true);
-  AddCaption({400, 196}, "Without face and items");
-  new HXComboBox(this, {560, 194}, HXSize{110, 17});
+  new HXComboBox(this, {560, 164}, "Inert", nullptr, true);
 }
 
 void ChoicesView::BuildMenuButton() {

@@ -60,29 +60,30 @@ void DialogsView::OnEventSink(HXEventSinkRecord& record) {
 
 // Dialogs of the toolkit
 
-void DialogsView::RunPopup(const char* message, bool yesNo, bool cancelStyle, bool withDontShow) {
+void DialogsView::RunPopup(const char* title, const char* message, bool yesNo, bool cancelStyle,
+                           bool withDontShow) {
   // Made on the stack, run, and gone again: a dialog lives for one answer.
-  HXPopupDialog dialog(&window, "Gallery", message, yesNo, cancelStyle, withDontShow);
+  HXPopupDialog dialog(&window, title, message, yesNo, cancelStyle, withDontShow);
   answer = dialog.RunModal();
   dontShow = dialog.IsDontShowAgain();
   Log("Dialog: answer " + std::to_string(answer));
 }
 
 void DialogsView::RunMessage() {
-  RunPopup("The quick brown fox jumps over the lazy dog.", false, false, false);
+  RunPopup("Message", "The quick brown fox jumps over the lazy dog.", false, false, false);
 }
 
 void DialogsView::RunQuestion() {
-  RunPopup("Does the quick brown fox jump over the lazy dog?", true, false, false);
+  RunPopup("Question", "Does the quick brown fox jump over the lazy dog?", true, false, false);
 }
 
 void DialogsView::RunCancelQuestion() {
-  RunPopup("Shall the quick brown fox stop jumping over the dog?\nThis cannot be undone.", true,
-           true, false);
+  RunPopup("Stop", "Shall the quick brown fox stop jumping over the dog?\nThis cannot be undone.",
+           true, true, false);
 }
 
 void DialogsView::RunDontShow() {
-  RunPopup("The quick brown fox has jumped over the lazy dog.", false, false, true);
+  RunPopup("Hint", "The quick brown fox has jumped over the lazy dog.", false, false, true);
 }
 
 void DialogsView::RunInput() {
@@ -112,7 +113,8 @@ void DialogsView::ShowHelpTip() {
 
 void DialogsView::ShowPath(const char* what, const std::string& path) {
   lastPath = path;
-  Log(std::string(what) + ": " + (path.empty() ? "cancelled" : path));
+  const std::string name = path.substr(path.rfind('/') + 1);
+  Log(std::string(what) + ": " + (path.empty() ? "cancelled" : name));
 }
 
 void DialogsView::RunChooseFolder() { ShowPath("Folder", ChooseFolder("Choose", kStartFolder)); }

@@ -36,7 +36,8 @@ class DialogsView : public GalleryView {
   void Reveal();
   void OpenPage();
 
-  void RunPopup(const char* message, bool yesNo, bool cancelStyle, bool withDontShow);
+  void RunPopup(const char* title, const char* message, bool yesNo, bool cancelStyle,
+                bool withDontShow);
   void ShowPath(const char* what, const std::string& path);
 
   HXWindow& window;

@@ -101,14 +101,18 @@ void GalleryView::Draw() {
   }
 }
 
+std::string GalleryView::Text(float number) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%g", static_cast<double>(number));
+  return text.data();
+}
+
 std::string GalleryView::Line(const std::string& name, const std::string& value) {
   return name + " = " + value + "\n";
 }
 
 std::string GalleryView::Line(const std::string& name, float value) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%g", static_cast<double>(value));
-  return Line(name, std::string(text.data()));
+  return Line(name, Text(value));
 }
 
 std::string GalleryView::Line(const std::string& name, int value) {

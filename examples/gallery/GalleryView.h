@@ -32,6 +32,8 @@ class GalleryView : public HXPanel {
   void WatchMouse(HXObject& widget, const std::string& name);
   void Log(const std::string& line);
 
+  /// As short as possible: "1", "0.5".
+  static std::string Text(float number);
   static std::string Line(const std::string& name, const std::string& value);
   static std::string Line(const std::string& name, float value);
   static std::string Line(const std::string& name, int value);

@@ -96,9 +96,9 @@ std::string NumbersView::Values() const {
     pair.back() = ',';
     text += pair + " " + Line("format " + std::to_string(i + 1), formatted[i + 1]);
   }
-  text += Line("fine", fine) + Line("coarse", coarse) + Line("unbounded", unbounded);
-  std::string rest = Line("growing", growing);
-  rest.back() = ',';
-  text += rest + " " + Line("bindable", bindable);
-  return text;
+  text += Line("fine", fine) + Line("coarse", coarse) + Line("unbounded", unbounded) +
+          Line("growing", growing) + Line("bindable", bindable);
+  std::string numbers;
+  for (const float number : row) numbers += (numbers.empty() ? "" : " ") + Text(number);
+  return text + Line("row", numbers);
 }

@@ -8,7 +8,10 @@
 
 namespace {
 
-constexpr HXSize kFrameSize{200, 330};
+constexpr HXSize kColumnSize{200, 330};
+/// To the left of the text.
+constexpr std::int32_t kInset = 4;
+constexpr HXSize kFrameSize{kColumnSize.width - kInset, kColumnSize.height};
 constexpr std::int32_t kBarWidth = 17;
 constexpr std::int32_t kArrowSize = 17;
 
@@ -32,10 +35,13 @@ ScrollingView::ScrollingView(HXObject* parentObject, EventLog& log)
 
 ScrollingView::Column ScrollingView::MakeColumn(HXPoint position, int lineCount) {
   Column column{};
-  // The frame cuts off what is scrolled out of it.
-  column.frame = new HXPanel(this, position, kFrameSize);
+  auto* border = new HXPanel(this, position, kColumnSize);
+  border->SetColor(GalleryStyle::kPanel);
+  // The frame cuts off what is scrolled out of it. A bar keeps what it scrolls
+  // at the left edge of the frame, so the inset is the frame's own.
+  column.frame = new HXPanel(border, {kInset, 0}, kFrameSize);
   column.frame->SetColor(GalleryStyle::kPanel);
-  auto* text = new HXTextPanel(column.frame, {4, 0}, {kFrameSize.width - kBarWidth - 8, 20});
+  auto* text = new HXTextPanel(column.frame, {0, 0}, {kFrameSize.width - kBarWidth - kInset, 20});
   text->SetColor(GalleryStyle::kPanel);
   std::string lines;
   for (int i = 1; i <= lineCount; ++i) lines += "Line " + std::to_string(i) + "\n";

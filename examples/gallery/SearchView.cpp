@@ -18,8 +18,8 @@ SearchView::SearchView(HXObject* parentObject, EventLog& log) : GalleryView(pare
   AddCaption({20, 42}, "Type to narrow the list down; Escape or the cross clears.");
   search = new HXBrowserSearch(this, {20, 64}, {320, 30}, "", 0);
   search->SetChangeHandler(&SearchView::OnSearch, this, 0);
-  matches = new HXTextPanel(this, {26, 110}, {300, 20});
-  matches->SetColor(GalleryStyle::kPage);
+  list = new HXTextPanel(this, {26, 110}, {300, 20});
+  list->SetColor(GalleryStyle::kPage);
 
   AddCaption({400, 42}, "With a text from the start");
   filled = new HXBrowserSearch(this, {400, 64}, {220, 30}, "copper", 0);
@@ -38,14 +38,20 @@ void SearchView::ShowMatches() {
   // has to know.
   std::string wanted = search->GetText();
   if (wanted == "Search...") wanted.clear();
+  matches.clear();
   std::string text;
   for (const char* material : kMaterials) {
     const std::string name = material;
-    if (name.find(wanted) != std::string::npos) text += name + "\n";
+    if (name.find(wanted) == std::string::npos) continue;
+    matches.push_back(name);
+    text += name + "\n";
   }
-  matches->SetText(text.empty() ? "Nothing found" : text);
+  list->SetText(text.empty() ? "Nothing found" : text);
 }
 
 std::string SearchView::Values() const {
-  return Line("search", search->GetText()) + Line("filled", filled->GetText());
+  std::string names;
+  for (const std::string& name : matches) names += (names.empty() ? "" : ", ") + name;
+  return Line("search", search->GetText()) + Line("filled", filled->GetText()) +
+         Line("found", names);
 }

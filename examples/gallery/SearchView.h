@@ -19,5 +19,6 @@ class SearchView : public GalleryView {
 
   HXBrowserSearch* search = nullptr;
   HXBrowserSearch* filled = nullptr;
-  HXTextPanel* matches = nullptr;
+  HXTextPanel* list = nullptr;
+  std::vector<std::string> matches;
 };

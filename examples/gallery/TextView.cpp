@@ -44,6 +44,11 @@ HXTextControl* TextView::MakeField(std::int32_t y, const char* caption, const ch
                                        [this](const std::string& line) { Log(line); });
   field->SetColor(GalleryStyle::kPanel);
   field->SetTextColor(GalleryStyle::kWhite);
+  // Tab goes down the fields that can be edited, and stays in the last one.
+  if ((flags & HXTextControl::kReadOnly) == 0) {
+    if (above != nullptr) field->Follow(*above);
+    above = field;
+  }
   return field;
 }
 
@@ -68,14 +73,19 @@ void TextView::BuildBox() {
 
 void TextView::BuildRichText() {
   AddHeading({400, 14}, "Rich text");
-  // What scrolls and its scroll bar share a parent, which cuts the content.
-  auto* frame = new HXPanel(this, {400, 40}, {340, 274});
-  frame->SetColor(GalleryStyle::kWhite);
+  constexpr HXSize kSize{340, 274};
+  constexpr std::int32_t kInset = 4;
   constexpr std::int32_t kBarWidth = 17;
-  auto* text = new HXTextControl(frame, {4, 0}, {340 - kBarWidth - 8, 50}, kRichText,
+  auto* border = new HXPanel(this, {400, 40}, kSize);
+  border->SetColor(GalleryStyle::kWhite);
+  // What scrolls and its scroll bar share a parent, which cuts the content.
+  auto* frame = new HXPanel(border, {kInset, 0}, {kSize.width - kInset, kSize.height});
+  frame->SetColor(GalleryStyle::kWhite);
+  const std::int32_t barX = kSize.width - kInset - kBarWidth;
+  auto* text = new HXTextControl(frame, {0, 0}, {barX - kInset, 50}, kRichText,
                                  HXTextControl::kMultiLine | HXTextControl::kReadOnly);
   text->SetColor(GalleryStyle::kWhite);
-  new HXScrollBar(frame, text, {340 - kBarWidth, 0}, true);
+  new HXScrollBar(frame, text, {barX, 0}, true);
 }
 
 std::string TextView::Values() const {

@@ -3,6 +3,7 @@
 #include "examples/gallery/GalleryView.h"
 
 class HXTextControl;
+class LoggingTextControl;
 
 /// Text controls in every style, a text box with its owner, and rich text.
 class TextView : public GalleryView {
@@ -18,6 +19,8 @@ class TextView : public GalleryView {
   void BuildBox();
   void BuildRichText();
 
+  /// The field that was made last, of those that can be edited.
+  LoggingTextControl* above = nullptr;
   HXTextControl* plain = nullptr;
   HXTextControl* password = nullptr;
   HXTextControl* limited = nullptr;

@@ -2,7 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
-#include "installer/Cocoa/MainMenuBar.h"
+#include "Src/HXUI/Cocoa/Conversions.h"
+#include "Src/HXUI/Cocoa/MainMenuBar.h"
 
 void InstallMainMenu() {
   NSString* name = [[NSProcessInfo processInfo] processName];
@@ -10,7 +11,7 @@ void InstallMainMenu() {
   [applicationMenu addItemWithTitle:[@"Quit " stringByAppendingString:name]
                              action:@selector(terminate:)
                       keyEquivalent:@"q"];
-  NSMenu* mainMenu = MakeMainMenuBar(name);
+  NSMenu* mainMenu = MakeMainMenuBar(FromNative(name));
   id<NSMenuItem> item = [mainMenu addItemWithTitle:name action:nullptr keyEquivalent:@""];
   [mainMenu setSubmenu:applicationMenu forItem:item];
   [NSApp setMainMenu:mainMenu];

@@ -22,9 +22,9 @@ class HXBitmap {
   HXBitmap(const HXBitmap&) = delete;
   HXBitmap& operator=(const HXBitmap&) = delete;
 
-  /// Decodes a PNG, or any format the platform reads; the bytes are copied.
-  /// Undecodable bytes, and a PNG of more than 16383 pixels a side, leave the
-  /// bitmap empty: drawing it draws nothing.
+  /// Decodes a PNG, or any format that the platform reads and that does no harm:
+  /// under GNUstep only JPEG beside it, both up to 16383 pixels a side. The bytes
+  /// are copied. Anything else leaves the bitmap empty: drawing it draws nothing.
   void LoadFromBytes(const unsigned char* bytes, std::uint32_t length);
   /// `path` is UTF-8. A file that cannot be read or decoded gives an empty
   /// picture of 1 by 1.

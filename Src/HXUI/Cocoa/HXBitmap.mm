@@ -4,38 +4,24 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <new>
+#include <span>
 #include <utility>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
 #include "Src/HXUI/Cocoa/GraphicsState.h"
+#include "Src/HXUI/Cocoa/PictureGuard.h"
 #include "Src/HXUI/HXObject.h"
 
 namespace {
 
-/// Beyond this, the row table or the byte count of one of the platform's decoders overflows.
-constexpr std::uint32_t kLargestPngSide = 16383;
-
-std::uint32_t BigEndian32(const unsigned char* bytes) {
-  return (std::uint32_t{bytes[0]} << 24) | (std::uint32_t{bytes[1]} << 16) |
-         (std::uint32_t{bytes[2]} << 8) | std::uint32_t{bytes[3]};
-}
-
-bool IsOverlargePng(NSData* data) {
-  static constexpr unsigned char kSignature[] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-  constexpr std::size_t kWidthOffset = 16;
-  constexpr std::size_t kHeightOffset = 20;
-  if ([data length] < kHeightOffset + 4) return false;
-  const auto* bytes = static_cast<const unsigned char*>([data bytes]);
-  return std::equal(std::begin(kSignature), std::end(kSignature), bytes) &&
-         (BigEndian32(bytes + kWidthOffset) > kLargestPngSide ||
-          BigEndian32(bytes + kHeightOffset) > kLargestPngSide);
+std::span<const unsigned char> BytesOf(NSData* data) {
+  return {static_cast<const unsigned char*>([data bytes]), [data length]};
 }
 
 /// The caller owns one reference; nil for what is no image.
 NSImage* Decode(NSData* data) {
-  if ([data length] == 0 || IsOverlargePng(data)) return nil;
+  if ([data length] == 0 || !IsSafePicture(BytesOf(data))) return nil;
   @try {
     return [[NSImage alloc] initWithData:data];
   } @catch (NSException*) {

@@ -7,12 +7,12 @@
 #include "Src/HXUI/Cocoa/FontLookup.h"
 #include "Src/HXUI/Cocoa/GraphicsState.h"
 #include "Src/HXUI/Cocoa/HXBitmap.h"
+#include "Src/HXUI/Cocoa/TextExtents.h"
 
 namespace {
 
-/// Lay out from the line-fragment origin, without screen-font substitution.
-constexpr auto kMeasureOptions = static_cast<NSStringDrawingOptions>(5);
-/// The same, and truncate the last visible line. Not every AppKit has names for all of these bits.
+/// Lay out from the line-fragment origin, without screen-font substitution, and truncate the last
+/// visible line. Not every AppKit has names for all of these bits.
 constexpr auto kDrawOptions = static_cast<NSStringDrawingOptions>(37);
 /// Text stands this far to the right of where it is asked for, and this far above.
 constexpr CGFloat kTextShift = 1;
@@ -23,35 +23,10 @@ constexpr CGFloat kRightBoxHeight = 100;
 /// Stands for "no bound" when measuring.
 constexpr CGFloat kUnbounded = 1.0e6;
 
-/// Autoreleased.
-NSParagraphStyle* ParagraphStyle(std::uint32_t flags) {
-  NSMutableParagraphStyle* style =
-      [[[NSParagraphStyle defaultParagraphStyle] mutableCopy] autorelease];
-  [style setLineBreakMode:NSLineBreakByWordWrapping];
-  [style setAlignment:NSLeftTextAlignment];
-  if ((flags & HXCocoaDC::kCentre) != 0) [style setAlignment:NSCenterTextAlignment];
-  if ((flags & HXCocoaDC::kRight) != 0) [style setAlignment:NSRightTextAlignment];
-  return style;
-}
-
-/// Autoreleased; leaves out what is null.
-NSMutableDictionary* TextAttributes(std::uint32_t flags, NSFont* font) {
-  NSMutableDictionary* attributes = [NSMutableDictionary dictionary];
-  [attributes setObject:ParagraphStyle(flags) forKey:NSParagraphStyleAttributeName];
-  if (font != nil) [attributes setObject:font forKey:NSFontAttributeName];
-  return attributes;
-}
-
-NSSize Extent(NSString* text, NSSize bounds, NSDictionary* attributes) {
-  return [text boundingRectWithSize:bounds options:kMeasureOptions attributes:attributes].size;
-}
-
-/// `text` itself when it fits into `box`, otherwise as much of its beginning as fits with an
-/// ellipsis after it. Not every AppKit heeds the option that asks for this. nil when not even one
-/// line fits.
+/// As much of the beginning of `text` as fits into `box` with an ellipsis after it. Not every
+/// AppKit heeds the option that asks for this. nil when not even one line fits.
 NSString* Truncated(NSString* text, NSSize box, NSDictionary* attributes) {
   const NSSize column = NSMakeSize(box.width, kUnbounded);
-  if (Extent(text, column, attributes).height <= box.height) return text;
   NSString* fitting = nil;
   NSUInteger shortest = 0;
   NSUInteger longest = [text length];
@@ -59,7 +34,7 @@ NSString* Truncated(NSString* text, NSSize box, NSDictionary* attributes) {
     const NSUInteger middle = (shortest + longest) / 2;
     const NSUInteger end = [text rangeOfComposedCharacterSequenceAtIndex:middle].location;
     NSString* candidate = [[text substringToIndex:end] stringByAppendingString:@"\u2026"];
-    if (Extent(candidate, column, attributes).height <= box.height) {
+    if (TextExtents::MeasureOnce(candidate, column, attributes).height <= box.height) {
       fitting = candidate;
       shortest = middle + 1;
     } else {
@@ -69,9 +44,9 @@ NSString* Truncated(NSString* text, NSSize box, NSDictionary* attributes) {
   return fitting;
 }
 
-void DrawInBox(NSString* text, NSRect box, NSDictionary* attributes) {
-  if (NSIsEmptyRect(box)) return;
-  NSString* fitting = Truncated(text, box.size, attributes);
+/// `height` is what all of the text takes in the width of the box.
+void DrawInBox(NSString* text, CGFloat height, NSRect box, NSDictionary* attributes) {
+  NSString* fitting = height <= box.size.height ? text : Truncated(text, box.size, attributes);
   if (fitting != nil) {
     [fitting drawWithRect:box options:kDrawOptions attributes:attributes];
     return;
@@ -225,41 +200,44 @@ void HXCocoaDC::DrawText(const std::string& text, HXRect rect, std::uint32_t fla
   if (context == nil || native == nil) return;
   [NSGraphicsContext saveGraphicsState];
   [context setShouldAntialias:YES];
-  NSMutableDictionary* attributes = TextAttributes(flags, font);
+  NSMutableDictionary* attributes = TextExtents::Attributes(flags, font);
   if (textColor != nil) [attributes setObject:textColor forKey:NSForegroundColorAttributeName];
-  [attributes setObject:[NSNumber numberWithInt:underline ? 1 : 0]
-                 forKey:NSUnderlineStyleAttributeName];
+  if (underline) {
+    [attributes setObject:[NSNumber numberWithInt:1] forKey:NSUnderlineStyleAttributeName];
+  }
 
+  NSRect box = ToNative(rect);
   if (rect.width != 0 || rect.height != 0) {
-    NSRect box = ToNative(rect);
     box.origin.x += kTextShift;
     box.origin.y -= kTextLift;
     box.size.height += kTextLift;
     if ((flags & kCentreVertically) != 0) {
-      box.origin.y += (rect.height - [native sizeWithAttributes:attributes].height) / 2;
+      box.origin.y +=
+          (rect.height - TextExtents::Measure(text, font, flags, NSZeroSize).height) / 2;
     }
-    DrawInBox(native, box, attributes);
   } else if ((flags & kRight) != 0) {
-    const NSRect box =
-        NSMakeRect(rect.x - kRightBoxWidth, rect.y - kTextLift, kRightBoxWidth, kRightBoxHeight);
-    DrawInBox(native, box, attributes);
+    box = NSMakeRect(rect.x - kRightBoxWidth, rect.y - kTextLift, kRightBoxWidth, kRightBoxHeight);
   } else {
     [native drawAtPoint:NSMakePoint(rect.x + kTextShift, rect.y - kTextLift)
          withAttributes:attributes];
+  }
+  if (!NSIsEmptyRect(box)) {
+    const NSSize column = NSMakeSize(box.size.width, kUnbounded);
+    DrawInBox(native, TextExtents::Measure(text, font, flags, column).height, box, attributes);
   }
   [NSGraphicsContext restoreGraphicsState];
 }
 
 HXSize HXCocoaDC::MeasureText(const std::string& text, HXSize bounds, std::uint32_t) const {
-  NSString* native = ToNative(text);
-  if (native == nil) return {};
+  if (ToNative(text) == nil) return {};
   const NSSize limits = NSMakeSize(bounds.width > 0 ? bounds.width : kUnbounded,
                                    bounds.height > 0 ? bounds.height : kUnbounded);
   // Always to the left: where the lines stand does not change what they take, but the platform
   // counts the empty line after a last line break from where it would begin.
-  NSDictionary* attributes = TextAttributes(0, font);
-  if (text.empty()) return {1, FromNative(Extent(@" ", limits, attributes)).height};
-  const HXSize measured = FromNative(Extent(native, limits, attributes));
+  if (text.empty()) {
+    return {1, FromNative(TextExtents::Measure(" ", font, 0, limits)).height};
+  }
+  const HXSize measured = FromNative(TextExtents::Measure(text, font, 0, limits));
   return {measured.width + 1, measured.height};
 }
 

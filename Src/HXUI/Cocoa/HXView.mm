@@ -63,7 +63,11 @@ NSArray* DroppedPaths(id<NSDraggingInfo> dragging) {
 }
 
 - (void)removeTags {
-  [[NSNotificationCenter defaultCenter] removeObserver:self];
+  // By name and object: to look for everything that a view observes takes time for each view
+  // there is.
+  NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
+  [center removeObserver:self name:NSViewFrameDidChangeNotification object:self];
+  [center removeObserver:self name:NSViewBoundsDidChangeNotification object:self];
   if (trackTag != 0) [self removeTrackingRect:trackTag];
   trackTag = 0;
 }
@@ -214,6 +218,8 @@ NSArray* DroppedPaths(id<NSDraggingInfo> dragging) {
 }
 
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
+  // The platform offers it to every view there is, also to those that nobody sees.
+  if ([self isHiddenOrHasHiddenAncestor]) return NO;
   [[self retain] autorelease];
   const unichar key = KeyOf(event);
   if (![self sendToEventSink:kKeyDown param:key]) return YES;

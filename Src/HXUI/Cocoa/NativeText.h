@@ -26,7 +26,8 @@ void Disconnect(NSView* view, HXTextDelegate* delegate);
 void SetText(HXTextDelegate* delegate, const std::string& text);
 std::string GetText(HXTextDelegate* delegate);
 /// Parses RTF into a text view; returns the height of the laid-out text in
-/// pixels, rounded up. What is no RTF gives an empty text.
+/// pixels, rounded up. What is no RTF gives an empty text; fonts are kept between 1 and 1638
+/// points; 0 when the platform cannot lay the text out.
 std::int32_t SetRichText(NSView* textView, const std::string& rtf);
 /// The characters of a text view without their markup.
 std::string GetPlainText(NSView* textView);

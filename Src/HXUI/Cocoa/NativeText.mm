@@ -2,6 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
@@ -9,6 +10,7 @@
 #import "Src/HXUI/Cocoa/HXTextDelegate.h"
 #import "Src/HXUI/Cocoa/HXTextField.h"
 #include "Src/HXUI/HXTextControl.h"
+#include "Src/HXUI/RtfFields.h"
 #include "Src/HXUI/RtfFontTable.h"
 
 namespace {
@@ -60,18 +62,66 @@ std::string InstalledFamily(const std::string& family) {
   return wanted == nil ? std::string() : FromNative(FontLookup::InstalledFamily(wanted));
 }
 
+/// Without fonts of no size or of an absurd one, which cannot be laid out.
+void BoundFontSizes(NSMutableAttributedString* text) {
+  constexpr CGFloat kSmallest = 1;
+  constexpr CGFloat kLargest = 1638;
+  NSRange range = NSMakeRange(0, 0);
+  while (NSMaxRange(range) < [text length]) {
+    NSFont* font = [text attribute:NSFontAttributeName
+                           atIndex:NSMaxRange(range)
+                    effectiveRange:&range];
+    const CGFloat size = std::clamp([font pointSize], kSmallest, kLargest);
+    if (font == nil || size == [font pointSize]) continue;
+    NSFont* bounded = [[NSFontManager sharedFontManager] convertFont:font
+                                                              toSize:static_cast<float>(size)];
+    [text addAttribute:NSFontAttributeName value:bounded range:range];
+  }
+}
+
+/// With a paragraph style everywhere: GNUstep takes the one of a paragraph's first
+/// letter for all of it, and falls over when that has none.
+void CompleteParagraphStyles(NSMutableAttributedString* text) {
+  NSRange range = NSMakeRange(0, 0);
+  while (NSMaxRange(range) < [text length]) {
+    NSParagraphStyle* style = [text attribute:NSParagraphStyleAttributeName
+                                      atIndex:NSMaxRange(range)
+                               effectiveRange:&range];
+    if (style != nil) continue;
+    [text addAttribute:NSParagraphStyleAttributeName
+                 value:[NSParagraphStyle defaultParagraphStyle]
+                 range:range];
+  }
+}
+
 /// Autoreleased; empty when the bytes are no RTF.
 NSAttributedString* ParseRtf(const std::string& rtf) {
   // GNUstep drops bold and italic along with a family that is not there.
-  const std::string document = RtfFontTable::ReplaceFamilies(rtf, InstalledFamily);
+  const std::string document =
+      RtfFields::DisarmUnusual(RtfFontTable::ReplaceFamilies(rtf, InstalledFamily));
   NSData* data = [NSData dataWithBytes:document.data() length:document.size()];
-  NSAttributedString* text = nil;
+  NSMutableAttributedString* text = nil;
   @try {
-    text = [[[NSAttributedString alloc] initWithRTF:data documentAttributes:NULL] autorelease];
+    text = [[[NSMutableAttributedString alloc] initWithRTF:data
+                                        documentAttributes:NULL] autorelease];
   } @catch (NSException* exception) {
     NSLog(@"Rich text could not be read: %@", [exception reason]);
   }
-  return text == nil ? [[[NSAttributedString alloc] init] autorelease] : text;
+  if (text == nil) return [[[NSAttributedString alloc] init] autorelease];
+  BoundFontSizes(text);
+  CompleteParagraphStyles(text);
+  return text;
+}
+
+/// Of all of the text, rounded up.
+std::int32_t LaidOutHeight(NSTextView* view) {
+  NSTextContainer* container = [view textContainer];
+  NSLayoutManager* layout = [view layoutManager];
+  // Lays out all of it.
+  (void)[layout glyphRangeForTextContainer:container];
+  const CGFloat height =
+      NSMaxY([layout usedRectForTextContainer:container]) + 2 * [view textContainerInset].height;
+  return static_cast<std::int32_t>(std::ceil(height));
 }
 
 }  // namespace
@@ -110,14 +160,14 @@ void NativeText::SetText(HXTextDelegate* delegate, const std::string& text) {
 std::int32_t NativeText::SetRichText(NSView* view, const std::string& rtf) {
   if (!IsTextView(view)) return 0;
   NSTextView* textView = static_cast<NSTextView*>(view);
-  [[textView textStorage] setAttributedString:ParseRtf(rtf)];
-  NSTextContainer* container = [textView textContainer];
-  NSLayoutManager* layout = [textView layoutManager];
-  // Lays out all of it.
-  (void)[layout glyphRangeForTextContainer:container];
-  const CGFloat height = NSMaxY([layout usedRectForTextContainer:container]) +
-                         2 * [textView textContainerInset].height;
-  return static_cast<std::int32_t>(std::ceil(height));
+  @try {
+    [[textView textStorage] setAttributedString:ParseRtf(rtf)];
+    return LaidOutHeight(textView);
+  } @catch (NSException* exception) {
+    // GNUstep's layout gives up on some texts.
+    NSLog(@"Rich text could not be laid out: %@", [exception reason]);
+  }
+  return 0;
 }
 
 std::string NativeText::GetText(HXTextDelegate* delegate) { return FromNative([delegate text]); }
@@ -129,8 +179,14 @@ std::string NativeText::GetPlainText(NSView* view) {
 
 void NativeText::SelectAll(NSView* view) {
   NSTextField* field = AsField(view);
-  if (!IsBeingEdited(field)) [[field window] makeFirstResponder:field];
-  [field selectText:nil];
+  @try {
+    if (!IsBeingEdited(field)) [[field window] makeFirstResponder:field];
+    [field selectText:nil];
+  } @catch (NSException* exception) {
+    // GNUstep offers each selection to other programs at once, through a server
+    // that may have gone. The text is selected all the same.
+    NSLog(@"The selection could not be offered: %@", [exception reason]);
+  }
 }
 
 void NativeText::SetMaxLength(HXTextDelegate* delegate, int length) {

@@ -4,6 +4,7 @@
 
 #include "Src/HXUI/Cocoa/Conversions.h"
 #import "Src/HXUI/Cocoa/HXView.h"
+#include "Src/HXUI/Cocoa/SubviewRemoval.h"
 #include "Src/HXUI/HXObject.h"
 
 @interface NSView (HXRedraw)
@@ -36,6 +37,8 @@ void NativeView::Destroy(NSView* view) {
   // While the view waits for its last release it must not hear of anything.
   [own removeTags];
   [view removeFromSuperview];
+  // All at once: their widgets, which are destroyed next, would take them out one by one.
+  RemoveSubviews(own);
   // The window may be about to hand this view the event that destroys it.
   [view autorelease];
 }

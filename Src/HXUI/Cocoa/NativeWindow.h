@@ -47,8 +47,9 @@ bool IsKey(NSWindow* window);
 /// Of the first screen, cut to an integer; 0 without a screen.
 std::int32_t GetScreenHeight();
 
-/// The platform's modal session; the handle goes to the calls below.
-void* BeginModal(NSWindow* window);
+/// The platform's modal session, in front of the window that `ownerView` is in;
+/// `ownerView` may be nil. The handle goes to the calls below.
+void* BeginModal(NSWindow* window, NSView* ownerView);
 /// Serves the events that are there. False when the session has been stopped.
 bool ServeModalEvents(void* session);
 /// Waits in the default mode for the next input or timer and lets it act.

@@ -8,6 +8,7 @@
 #import "Src/HXUI/Cocoa/HXTopWindow.h"
 #import "Src/HXUI/Cocoa/HXView.h"
 #import "Src/HXUI/Cocoa/HXWindowDelegate.h"
+#include "Src/HXUI/Cocoa/WindowOwner.h"
 #include "Src/HXUI/HXWindow.h"
 
 namespace {
@@ -138,7 +139,8 @@ std::int32_t NativeWindow::GetScreenHeight() {
   return static_cast<std::int32_t>([[screens objectAtIndex:0] frame].size.height);
 }
 
-void* NativeWindow::BeginModal(NSWindow* window) {
+void* NativeWindow::BeginModal(NSWindow* window, NSView* ownerView) {
+  KeepInFront(window, [ownerView window]);
   [window orderFront:nil];
   return [NSApp beginModalSessionForWindow:window];
 }
@@ -152,7 +154,13 @@ bool NativeWindow::ServeModalEvents(void* session) {
 
 void NativeWindow::WaitForInput() {
   NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-  [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:[NSDate distantFuture]];
+  @try {
+    [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:[NSDate distantFuture]];
+  } @catch (NSException* exception) {
+    // Something of the platform's that was served meanwhile has failed, such as
+    // the exchange with its pasteboard server. The dialog has no part in it.
+    NSLog(@"While a dialog waited: %@", [exception reason]);
+  }
   [pool drain];
 }
 

@@ -2,7 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "installer/Cocoa/MainMenuBar.h"
+#include "Src/HXUI/Cocoa/MainMenuBar.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ void InstallGalleryMenu() {
   [edit addItemWithTitle:@"Paste" action:@selector(paste:) keyEquivalent:@"v"];
   [edit addItemWithTitle:@"Select All" action:@selector(selectAll:) keyEquivalent:@"a"];
 
-  NSMenu* mainMenu = MakeMainMenuBar(@"Gallery");
+  NSMenu* mainMenu = MakeMainMenuBar("Gallery");
   AddSubmenu(mainMenu, application);
   AddSubmenu(mainMenu, edit);
   [NSApp setMainMenu:mainMenu];

@@ -18,7 +18,8 @@ void CopyPixels(NSImage* image, NSBitmapImageRep* target) {
   NSGraphicsContext* context = [NSGraphicsContext graphicsContextWithBitmapImageRep:target];
   [NSGraphicsContext saveGraphicsState];
   [NSGraphicsContext setCurrentContext:context];
-  const NSRect all = NSMakeRect(0, 0, [target pixelsWide], [target pixelsHigh]);
+  const NSRect all = NSMakeRect(0, 0, static_cast<CGFloat>([target pixelsWide]),
+                                static_cast<CGFloat>([target pixelsHigh]));
   // The representation rather than the image: it knows no flipped mark, and the
   // context is not flipped either, so the first row of the bytes is the top one.
   [[image bestRepresentationForRect:all context:context hints:nil] drawInRect:all

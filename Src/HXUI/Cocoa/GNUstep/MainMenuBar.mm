@@ -1,4 +1,6 @@
-#include "installer/Cocoa/MainMenuBar.h"
+#include "Src/HXUI/Cocoa/MainMenuBar.h"
+
+#include "Src/HXUI/Cocoa/Conversions.h"
 
 /// Other desktops have no menu bar at the top of the screen; a bar of ours
 /// would lie over whatever they have there.
@@ -10,6 +12,6 @@
 }
 @end
 
-NSMenu* MakeMainMenuBar(NSString* title) {
-  return [[[HiddenMenuBar alloc] initWithTitle:title] autorelease];
+NSMenu* MakeMainMenuBar(const std::string& title) {
+  return [[[HiddenMenuBar alloc] initWithTitle:ToNative(title)] autorelease];
 }

@@ -1,4 +1,4 @@
-#include "installer/EventWait.h"
+#include "Src/HXUI/Cocoa/EventWait.h"
 
 // The platform wakes for every event.
 void KeepEventsMoving() {}

@@ -1,4 +1,4 @@
-#include "installer/DisplayCheck.h"
+#include "Src/HXUI/Cocoa/DisplayCheck.h"
 
 #include <X11/Xlib.h>
 

@@ -1,4 +1,4 @@
-#include "installer/DisplayCheck.h"
+#include "Src/HXUI/Cocoa/DisplayCheck.h"
 
 // The window server starts applications only where it can show them.
 bool IsDisplayAvailable() { return true; }

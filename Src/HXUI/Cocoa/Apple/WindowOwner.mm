@@ -1,0 +1,4 @@
+#include "Src/HXUI/Cocoa/WindowOwner.h"
+
+// A window that a modal session blocks is not raised by clicks here.
+void KeepInFront(NSWindow*, NSWindow*) {}

@@ -1,5 +1,0 @@
-#include "installer/Cocoa/MainMenuBar.h"
-
-NSMenu* MakeMainMenuBar(NSString* title) {
-  return [[[NSMenu alloc] initWithTitle:title] autorelease];
-}
