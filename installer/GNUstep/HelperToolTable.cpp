@@ -32,13 +32,14 @@ HelperToolTable HelperToolTable::Standard() {
   // ditto is cp here. -T makes the destination the copy itself even when it exists already, as
   // ditto does. The copy belongs to root instead of whoever unpacked the installer: a machine-wide
   // plug-in must not stay writable for one ordinary user. Modes, times, links and attributes are
-  // kept.
+  // kept. -T makes mv rename or refuse, too: when somebody else has made the destination meanwhile,
+  // what was to be moved stays where it is, and whole, instead of ending up inside.
   return HelperToolTable({
       {"/bin/mkdir", {path}, {"/bin/mkdir"}},
       {"/bin/rm", {{"-rf"}, path}, {"/bin/rm"}},
       {"/usr/bin/ditto", {path, path}, {"/bin/cp", "-a", "--no-preserve=ownership", "-T", "--"}},
       {"/bin/chmod", {{"-R"}, {"0755", "0777"}, path}, {"/bin/chmod"}},
-      {"/bin/mv", {path, path}, {"/bin/mv"}},
+      {"/bin/mv", {path, path}, {"/bin/mv", "-T"}},
   });
 }
 

@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr int kMillisecondsBetweenAttempts = 20;
+
 void PrintRefusal(const std::string& reason) {
   std::fprintf(stderr, "OstrelInstallerHelper: %s\n", reason.c_str());
 }
@@ -30,19 +32,23 @@ HelperDescriptor ChildSignals() {
 
 }  // namespace
 
-RootHelper::RootHelper(HelperDescriptor socket, HelperToolTable tools)
-    : channel(std::move(socket)), tools(std::move(tools)) {}
+RootHelper::RootHelper(HelperDescriptor socket, HelperToolTable tools, HelperTurn turn)
+    : channel(std::move(socket)), tools(std::move(tools)), turn(std::move(turn)) {}
 
 int RootHelper::Run() {
   childSignals = ChildSignals();
-  if (!childSignals.IsOpen() || !channel.Send(HelperMessage(HelperMessage::Kind::kHello, {}))) {
+  // The installer waits for the greeting, so it has sent nothing yet.
+  if (!childSignals.IsOpen() || !channel.TrustOnlyTheMaker() ||
+      !channel.Send(HelperMessage(HelperMessage::Kind::kHello, {}))) {
     return 1;
   }
-  while (channel.IsOpen() || !queue.IsEmpty()) {
+  while (channel.IsOpen() || !accepted.empty() || !queue.IsEmpty()) {
     // poll passes over the socket's entry once it is closed and negative.
     std::array<pollfd, 2> entries{
         {{channel.Number(), POLLIN, 0}, {childSignals.Number(), POLLIN, 0}}};
-    if (::poll(entries.data(), entries.size(), -1) < 0) {
+    // The system does not tell when a turn ends.
+    const int patience = accepted.empty() ? -1 : kMillisecondsBetweenAttempts;
+    if (::poll(entries.data(), entries.size(), patience) < 0) {
       if (errno == EINTR) {
         continue;
       }
@@ -56,8 +62,19 @@ int RootHelper::Run() {
     if (entries[0].revents != 0) {
       ServeOneRecord();
     }
+    RunAccepted();
   }
   return 0;
+}
+
+void RootHelper::RunAccepted() {
+  if (accepted.empty() || !turn.Take()) {
+    return;
+  }
+  for (auto& [command, output] : accepted) {
+    queue.Add(std::move(command), std::move(output));
+  }
+  accepted.clear();
 }
 
 void RootHelper::ServeOneRecord() {
@@ -74,6 +91,8 @@ void RootHelper::ServeOneRecord() {
   if (receipt == HelperChannel::Receipt::kMessage &&
       message.kind == HelperMessage::Kind::kRequest) {
     status = Accept(message.words, &command, &readEnd, &writeEnd);
+  } else if (receipt == HelperChannel::Receipt::kStranger) {
+    PrintRefusal("A message of another process than the installer was refused.");
   } else {
     PrintRefusal("A message that is not a request was refused.");
   }
@@ -83,7 +102,7 @@ void RootHelper::ServeOneRecord() {
     channel.Close();
   }
   if (status == kAuthorizationSuccess) {
-    queue.Add(std::move(command), std::move(writeEnd));
+    accepted.emplace_back(std::move(command), std::move(writeEnd));
   }
 }
 

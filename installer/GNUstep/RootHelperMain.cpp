@@ -9,6 +9,7 @@
 #include "installer/GNUstep/HelperChannel.h"
 #include "installer/GNUstep/HelperDescriptor.h"
 #include "installer/GNUstep/HelperToolTable.h"
+#include "installer/GNUstep/HelperTurn.h"
 #include "installer/GNUstep/RootHelper.h"
 
 namespace {
@@ -67,5 +68,6 @@ int main() {
   if (::chdir("/") != 0) {
     return 1;
   }
-  return RootHelper(std::move(socket), HelperToolTable::Standard()).Run();
+  return RootHelper(std::move(socket), HelperToolTable::Standard(), HelperTurn::OfThisMachine())
+      .Run();
 }
