@@ -10,23 +10,18 @@ Profiler& Profiler::Instance() {
   return profiler;
 }
 
-bool Profiler::IsKnown(const ProfilerEntry* entry) {
-  // Timings come in the same order again and again: the entry is mostly the latest one or its
-  // successor, and then the search costs nothing beside the clock.
-  for (std::size_t next = recent; next < entries.size() && next <= recent + 1; ++next) {
-    if (entries[next] == entry) {
-      recent = next;
-      return true;
-    }
-  }
-  const auto found = std::find(entries.begin(), entries.end(), entry);
-  if (found == entries.end()) return false;
-  recent = static_cast<std::size_t>(found - entries.begin());
-  return true;
+bool Profiler::IsKnown(const ProfilerEntry* entry) const {
+  // The place that was noted is right for all but new entries, and then the search costs nothing
+  // beside the clock.
+  if (entry->place < entries.size() && entries[entry->place] == entry) return true;
+  return std::find(entries.begin(), entries.end(), entry) != entries.end();
 }
 
 void Profiler::Begin(ProfilerEntry* entry) {
-  if (!IsKnown(entry)) entries.push_back(entry);
+  if (!IsKnown(entry)) {
+    entry->place = entries.size();
+    entries.push_back(entry);
+  }
   entry->start = GetTimeMs();
   active.push_back(entry);
 }
@@ -50,7 +45,6 @@ void Profiler::Reset() {
   for (ProfilerEntry* entry : entries) entry->total = 0.0;
   entries.clear();
   active.clear();
-  recent = 0;
 }
 
 std::string Profiler::MakeLabel(const std::string& name, const std::string& file, int line) {

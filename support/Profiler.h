@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <deque>
 #include <string>
 
@@ -40,13 +39,11 @@ class Profiler {
   Profiler() = default;
   ~Profiler() = default;
 
-  /// A linear search by pointer; remembers where it found the entry.
-  bool IsKnown(const ProfilerEntry* entry);
+  /// A linear search by pointer, unless the entry is where it was put.
+  bool IsKnown(const ProfilerEntry* entry) const;
 
   /// Every entry begun so far, each once, in the order of first use.
   std::deque<ProfilerEntry*> entries;
   /// Begun and not yet ended, the latest at the back.
   std::deque<ProfilerEntry*> active;
-  /// Where in `entries` the latest search ended.
-  std::size_t recent = 0;
 };

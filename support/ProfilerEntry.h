@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 /// One named timing of the profiler. Its owner keeps it alive, and at the same
@@ -11,4 +12,6 @@ struct ProfilerEntry {
   double start = 0.0;
   /// Milliseconds accumulated over all intervals that have ended.
   double total = 0.0;
+  /// Where the profiler has put the entry; the profiler's own business.
+  std::size_t place = 0;
 };

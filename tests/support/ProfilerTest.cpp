@@ -41,6 +41,23 @@ void WaitForClock(double ms) {
 
 }  // namespace
 
+TEST_F(ProfilerTest, ACopyOfAKnownEntryIsAnotherEntry) {
+  ProfilerEntry& first = Named("first");
+  profiler.Begin(&first);
+  profiler.End();
+  ProfilerEntry& copy = entries.emplace_back(first);
+  copy.name = "copy";
+  copy.total = 0;
+  profiler.Begin(&copy);
+  profiler.End();
+  profiler.Begin(&first);
+  profiler.End();
+  const std::string printed = Printed();
+  EXPECT_LT(printed.find("first"), printed.find("copy"));
+  EXPECT_NE(printed.find("copy"), std::string::npos);
+  EXPECT_EQ(printed.find("first"), printed.rfind("first"));
+}
+
 TEST_F(ProfilerTest, ThereIsOneProfilerForAllThreads) {
   std::vector<Profiler*> seen(8, nullptr);
   std::vector<std::thread> threads;
