@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "installer/InstallerTexts.h"
+#include "tests/support/CommaLocale.h"
 
 namespace {
 
@@ -114,6 +115,14 @@ TEST(InstallerTextsTest, FailureEndsInTheErrorsNumber) {
   EXPECT_EQ(InstallerTexts::Failure(state),
             "An error occurred while installing Ostrel 3D.\nPlease contact support.\n"
             "Error code:-60005");
+}
+
+TEST(InstallerTextsTest, NumbersAreTheSameForAUserWithADecimalComma) {
+  const CommaLocale locale;
+  EXPECT_NE(InstallerTexts::Welcome().find("2.2.2 (2169)"), std::string::npos);
+  InstallerState state;
+  state.installError = 12345;
+  EXPECT_TRUE(InstallerTexts::Failure(state).ends_with("Error code:12345"));
 }
 
 }  // namespace

@@ -147,7 +147,7 @@ TEST(PropertyListGuardTest, BinaryObjectsBeyondTheFileAreNotSafe) {
 TEST(PropertyListGuardTest, ReferencesToNoObjectAreNotSafe) {
   EXPECT_TRUE(IsSafePropertyList(BinaryListBytes({ArrayBytes({1}), "Qa"})));
   EXPECT_FALSE(IsSafePropertyList(BinaryListBytes({ArrayBytes({2}), "Qa"})));
-  EXPECT_FALSE(IsSafePropertyList(BinaryListBytes({"\xD1\0\x01\0\x02", "Qa"})));
+  EXPECT_FALSE(IsSafePropertyList(BinaryListBytes({std::string("\xD1\0\x01\0\x02", 5), "Qa"})));
   EXPECT_FALSE(IsSafePropertyList(BinaryListBytes({})));
 }
 

@@ -73,7 +73,7 @@ TEST_F(HXColorImagesTest, TheSquareIsExactForTheHuesOfTheBar) {
 
 TEST_F(HXColorImagesTest, TheSquareHasWhiteAndBlackAndTheHueInItsCorners) {
   HXColorImages::FillSquare(fast.data(), 120);
-  const auto expectPixel = [this](int x, int y, std::vector<int> expected) {
+  const auto expectPixel = [this](int x, int y, const std::vector<int>& expected) {
     const unsigned char* pixel = fast.data() + 4 * (y * kSide + x);
     EXPECT_EQ(std::vector<int>(pixel, pixel + 4), expected) << x << ", " << y;
   };

@@ -2,6 +2,7 @@
 
 #include "Src/HXUI/HXControlFloatList.h"
 #include "tests/Src/HXUI/ControlFloatFixture.h"
+#include "tests/support/CommaLocale.h"
 
 namespace {
 
@@ -331,6 +332,21 @@ TEST_F(HXControlFloatEditingTest, EditingMakesARegisteredFieldTheCurrentOne) {
   EXPECT_EQ(fields.GetField(0, 0), field);
   delete field;
   field = nullptr;
+}
+
+TEST_F(HXControlFloatEditingTest, WorksTheSameForAUserWithADecimalComma) {
+  const CommaLocale locale;
+  number = 12.5F;
+  Make();
+  EXPECT_EQ(field->GetSize(), SizeFor("12.5"));
+  field->BeginEdit();
+  EXPECT_EQ(EditorOf(*field).GetText(), "12.5");
+  field->EndEdit(true);
+  EXPECT_EQ(number, 12.5F);
+  Enter(@"7,25");
+  EXPECT_EQ(number, 7.25F);
+  Enter(@"8.5");
+  EXPECT_EQ(number, 8.5F);
 }
 
 }  // namespace

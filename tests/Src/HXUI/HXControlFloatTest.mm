@@ -354,6 +354,18 @@ TEST_F(HXControlFloatTest, UnbindingEndsADrag) {
   EXPECT_EQ(Notifications(), (Changes{0}));
 }
 
+TEST_F(HXControlFloatTest, HidingEndsADrag) {
+  Make(0, 0, 0);
+  Press();
+  DragTo(10, 0);
+  ASSERT_FLOAT_EQ(number, 55);
+  field->SetVisible(false);
+  EXPECT_FALSE(field->HasMouseCapture());
+  field->SetVisible(true);
+  SendMouse(NSMouseMoved, *field, {8, 8});
+  EXPECT_FLOAT_EQ(number, 55) << "no button is held";
+}
+
 TEST_F(HXControlFloatTest, SurvivesItsDeletionInAnyNotification) {
   for (const int when : {kChangeBegins, kChangeStep, kChangeDone}) {
     Make(0, 0, 0);

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "Src/HXUI/HXFloatFormat.h"
+#include "tests/support/CommaLocale.h"
 
 namespace {
 
@@ -127,6 +128,18 @@ TEST(HXFloatFormatTest, KnowsIntegersAndAngles) {
   for (int code = 0; code <= 8; ++code) {
     EXPECT_EQ(HXFloatFormat(code).IsInteger(), code == 1);
     EXPECT_EQ(HXFloatFormat(code).IsAngle(), code == 2);
+  }
+}
+
+TEST(HXFloatFormatTest, WritesAndReadsTheSameForAUserWithADecimalComma) {
+  const CommaLocale locale;
+  EXPECT_EQ(HXFloatFormat(0).ShownText(12345.67F), "12345.7");
+  EXPECT_EQ(HXFloatFormat(HXFloatFormat::kInteger).ShownText(12345.67F), "12345");
+  EXPECT_EQ(HXFloatFormat(HXFloatFormat::kDegrees).ShownText(12.5F), "12.5º");
+  EXPECT_EQ(HXFloatFormat(HXFloatFormat::kTwoDecimals).EditorText(0.125F), "0.125");
+  EXPECT_EQ(HXFloatFormat(HXFloatFormat::kFraction).EditorText(0.125F), "12.5");
+  for (const char* text : {"1.5", "1,5", "1.5 and more"}) {
+    EXPECT_EQ(HXFloatFormat(0).Parse(text), 1.5F) << text;
   }
 }
 

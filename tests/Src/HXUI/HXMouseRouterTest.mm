@@ -263,6 +263,22 @@ TEST_F(HXMouseRouterTest, ClosingAParentEndsTheCaptureOfAWidgetInIt) {
   EXPECT_TRUE([Native() areCursorRectsEnabled]);
 }
 
+TEST_F(HXMouseRouterTest, HidingAParentEndsTheCaptureOfAWidgetInIt) {
+  auto* child = new RecordingPanel(panel, {0, 0}, {10, 10});
+  child->CaptureMouse();
+  other->SetVisible(false);
+  EXPECT_TRUE(child->HasMouseCapture()) << "it is still seen";
+  panel->SetVisible(false);
+  EXPECT_EQ(HXMouseRouter::GetCaptureOwner(), nullptr);
+  EXPECT_TRUE([Native() areCursorRectsEnabled]);
+}
+
+TEST_F(HXMouseRouterTest, HidingAWindowEndsTheCaptureOfAWidgetInIt) {
+  panel->CaptureMouse();
+  window->SetVisible(false);
+  EXPECT_EQ(HXMouseRouter::GetCaptureOwner(), nullptr);
+}
+
 TEST_F(HXMouseRouterTest, ClosingAWindowMidDragFreesThePointer) {
   RecordingWindow dragged;
   auto* knob = new RecordingPanel(&dragged, {0, 0}, {50, 50});

@@ -456,6 +456,16 @@ TEST_F(HXObjectTest, FocusCountsInTheKeyWindowOnly) {
   EXPECT_NE(HXObject::GetFocusedObject(), panel);
 }
 
+TEST_F(HXObjectTest, HidingAParentTakesTheKeyboardFromAWidgetInIt) {
+  RecordingPanel* panel = NewPanel();
+  auto* child = new RecordingPanel(panel, {0, 0}, {10, 10});
+  child->SetFocus();
+  panel->SetVisible(false);
+  EXPECT_FALSE(child->HasFocus());
+  EXPECT_EQ(child->focusLosses, 1);
+  EXPECT_EQ(HXObject::GetFocusedObject(), nullptr);
+}
+
 TEST_F(HXObjectTest, DestroyedWidgetGivesUpTheKeyboard) {
   HXPanel* panel = NewPanel();
   panel->SetFocus();

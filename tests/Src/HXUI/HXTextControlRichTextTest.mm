@@ -95,6 +95,23 @@ TEST_F(HXTextControlRichTextTest, WhatIsNoRichTextGivesAnEmptyText) {
   }
 }
 
+TEST_F(HXTextControlRichTextTest, ADamagedFieldLeavesTheTextAroundIt) {
+  HXTextControl* control = Make(kRichText, "");
+  control->SetText("{\\rtf1\\ansi before{\\field{\\*\\fldedit x}{\\fldrslt y}} after}");
+  EXPECT_TRUE(control->GetText().starts_with("before")) << control->GetText();
+  EXPECT_TRUE(control->GetText().ends_with(" after")) << control->GetText();
+}
+
+TEST_F(HXTextControlRichTextTest, FontsOfNoSizeAndOfAnAbsurdOneAreBounded) {
+  HXTextControl* control = Make(kRichText, "");
+  for (const char* size : {"0", "-7", "1", "3276", "99999999", "2147483647", "-2147483648"}) {
+    control->SetText(std::string("{\\rtf1\\ansi{\\fonttbl{\\f0\\fnil Verdana;}}\\f0\\fs") + size +
+                     " One \\fs24 two\\par three}");
+    EXPECT_EQ(control->GetText(), "One two\nthree") << size;
+    EXPECT_GT(control->GetSize().height, 8) << size;
+  }
+}
+
 TEST_F(HXTextControlRichTextTest, RichTextCutShortAnywhereLeavesTheControlUsable) {
   const std::string rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0\\fnil "
                           "Verdana;}}{\\colortbl;\\red1;}\\f0\\cf1 a\\'e9\\u8364? b}";

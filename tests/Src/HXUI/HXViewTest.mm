@@ -247,6 +247,20 @@ TEST_F(HXViewTest, CommandKeyIsOfferedToTheWholeTreeOnce) {
   EXPECT_EQ(sink.Count(kKeyDown), 3) << "the window's own view and two panels";
 }
 
+TEST_F(HXViewTest, HiddenWidgetsAndWhatLiesInThemHearOfNoCommandKeys) {
+  auto* child = new RecordingPanel(panel, {0, 0}, {10, 10});
+  auto* other = new RecordingPanel(window.get(), {200, 20}, {50, 50});
+  RecordingSink sink;
+  panel->SetVisible(false);
+  EXPECT_FALSE([Native() performKeyEquivalent:KeyEvent(@"k", NSCommandKeyMask)]);
+  EXPECT_THAT(panel->keys, IsEmpty());
+  EXPECT_THAT(child->keys, IsEmpty());
+  EXPECT_FALSE([View(child) performKeyEquivalent:KeyEvent(@"k", NSCommandKeyMask)]);
+  EXPECT_THAT(child->keys, IsEmpty());
+  EXPECT_THAT(other->keys, ElementsAre('k'));
+  EXPECT_EQ(sink.Count(kKeyDown), 2) << "the window's own view and the panel that is seen";
+}
+
 // Size and focus
 
 TEST_F(HXViewTest, ChangedSizeOrBoundsAreToldAndRedrawn) {

@@ -10,6 +10,9 @@
 #include "tests/Src/HXUI/RecordingWindow.h"
 #include "tests/Src/HXUI/ToolkitFixture.h"
 
+// After the others: it defines short words as macros.
+#include <X11/Xutil.h>
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -48,6 +51,23 @@ class HXWindowModalTest : public ToolkitFixture {
                             pressure:1]);
   }
 };
+
+TEST_F(HXWindowModalTest, TheWindowManagerKeepsItInFrontOfItsOwner) {
+  auto* widget = new RecordingPanel(window.get(), {0, 0}, {10, 10});
+  for (HXObject* owner : std::initializer_list<HXObject*>{window.get(), widget}) {
+    RecordingWindow dialog(owner);
+    Window inFrontOf = 0;
+    Later([&] {
+      Display* display = XOpenDisplay(nullptr);
+      XGetTransientForHint(display, reinterpret_cast<Window>([Native(dialog) windowRef]),
+                           &inFrontOf);
+      XCloseDisplay(display);
+      dialog.Close();
+    });
+    dialog.RunModal();
+    EXPECT_EQ(inFrontOf, reinterpret_cast<Window>([Native(*window) windowRef]));
+  }
+}
 
 TEST_F(HXWindowModalTest, CloseButtonEndsTheRunWithOne) {
   RecordingWindow dialog(window.get());

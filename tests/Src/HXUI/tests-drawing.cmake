@@ -4,4 +4,7 @@ set(HXUI_DRAWING_TESTS
   Cocoa/HXBitmapTest.mm
   Cocoa/HXCocoaDCBitmapTest.mm
   Cocoa/HXCocoaDCTest.mm
-  Cocoa/HXCocoaDCTextTest.mm)
+  Cocoa/HXCocoaDCTextTest.mm
+  Cocoa/SharedApplicationTest.mm
+  Cocoa/TextExtentsTest.mm
+  PictureSizeTest.cpp)

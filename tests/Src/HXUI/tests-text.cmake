@@ -9,5 +9,6 @@ set(HXUI_TEXT_TESTS
   HXTextDelegateTest.mm
   HXTextFieldTest.mm
   KeyStateTest.mm
+  RtfFieldsTest.cpp
   RtfFontTableTest.cpp
   WorkspaceTest.mm)

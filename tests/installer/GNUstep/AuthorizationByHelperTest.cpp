@@ -48,7 +48,7 @@ class AuthorizationByHelperTest : public testing::Test {
 
   // A bundle with modes, a link and names that a shell would trip over.
   std::string MakeBundle() const {
-    const std::string bundle = folder.MakeFolder("Ostrel64.plugin", 0750);
+    std::string bundle = folder.MakeFolder("Ostrel64.plugin", 0750);
     folder.MakeFolder("Ostrel64.plugin/Contents", 0700);
     folder.Write("Ostrel64.plugin/Contents/binary", "64 bit", 0700);
     folder.Write("Ostrel64.plugin/Contents/a b \xC3\xA9\n'$(x)", "odd", 0600);

@@ -168,4 +168,56 @@ TEST_F(HelperChannelTest, KnowsTheSocketThatItNeeds) {
   EXPECT_FALSE(HelperChannel::IsSuitable(unconnected.Number()));
 }
 
+TEST_F(HelperChannelTest, TakesNoConnectionThatCameInUnderAName) {
+  const HelperDescriptor listening(::socket(AF_UNIX, SOCK_SEQPACKET, 0));
+  sockaddr_un address{AF_UNIX, {}};
+  const std::string name = "ostrel-channel-test-" + std::to_string(::getpid());
+  std::memcpy(address.sun_path + 1, name.data(), name.size());  // Not in the file system.
+  auto* plain = reinterpret_cast<sockaddr*>(&address);
+  ASSERT_EQ(::bind(listening.Number(), plain, sizeof(address)), 0);
+  ASSERT_EQ(::listen(listening.Number(), 1), 0);
+  const HelperDescriptor connecting(::socket(AF_UNIX, SOCK_SEQPACKET, 0));
+  ASSERT_EQ(::connect(connecting.Number(), plain, sizeof(address)), 0);
+  const HelperDescriptor accepted(::accept(listening.Number(), nullptr, nullptr));
+  ASSERT_TRUE(accepted.IsOpen());
+  EXPECT_FALSE(HelperChannel::IsSuitable(accepted.Number()));
+  EXPECT_FALSE(HelperChannel::IsSuitable(connecting.Number()));
+}
+
+TEST_F(HelperChannelTest, OnceToldTakesRecordsOfTheMakerOnly) {
+  const auto sendFromAChild = [this] {
+    return HelperTestProcess::Wait(
+        HelperTestProcess::Fork([this] { return near.Send(hello) ? 0 : 1; }));
+  };
+  ASSERT_EQ(sendFromAChild(), 0);
+  EXPECT_EQ(far.Receive(&received, nullptr), Receipt::kMessage);
+  ASSERT_TRUE(far.TrustOnlyTheMaker());
+  ASSERT_EQ(sendFromAChild(), 0);
+  EXPECT_EQ(far.Receive(&received, nullptr), Receipt::kStranger);
+  EXPECT_TRUE(near.Send(hello));
+  EXPECT_EQ(far.Receive(&received, nullptr), Receipt::kMessage);
+}
+
+TEST_F(HelperChannelTest, OnceToldStillTakesNoUnwantedDescriptor) {
+  ASSERT_TRUE(far.TrustOnlyTheMaker());
+  const auto before = HelperTestProcess::Descriptors();
+  SendRaw(*hello.Encode(), 1);
+  EXPECT_EQ(far.Receive(&received, nullptr), Receipt::kMalformed);
+  HelperDescriptor descriptor;
+  SendRaw(*hello.Encode(), 2);
+  EXPECT_EQ(far.Receive(&received, &descriptor), Receipt::kMalformed);
+  SendRaw(*hello.Encode(), 1);
+  EXPECT_EQ(far.Receive(&received, &descriptor), Receipt::kMessage);
+  EXPECT_TRUE(descriptor.IsOpen());
+  descriptor.Close();
+  EXPECT_EQ(HelperTestProcess::Descriptors(), before);
+}
+
+TEST_F(HelperChannelTest, ARecordThatWaitedWhenToldIsOfAStranger) {
+  EXPECT_TRUE(near.Send(hello));
+  ASSERT_TRUE(far.TrustOnlyTheMaker());
+  EXPECT_EQ(far.Receive(&received, nullptr), Receipt::kStranger);
+  EXPECT_FALSE(HelperChannel().TrustOnlyTheMaker());
+}
+
 }  // namespace

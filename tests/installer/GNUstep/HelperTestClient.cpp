@@ -54,7 +54,7 @@ void HelperTestClient::Serve(const HelperToolTable& tools) {
     HelperDescriptor socket(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
     const HelperDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
     ::dup2(null.Number(), STDIN_FILENO);
-    return RootHelper(std::move(socket), tools).Run();
+    return RootHelper(std::move(socket), tools, HelperTurn("")).Run();
   });
 }
 

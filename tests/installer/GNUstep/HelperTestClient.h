@@ -26,7 +26,7 @@ class HelperTestClient {
   void Start(
       const std::vector<std::string>& environment = {},
       const std::function<void()>& prepare = [] {});
-  /// Runs the same service with other tools in a child.
+  /// Runs the same service with other tools in a child; it waits for no turn.
   void Serve(const HelperToolTable& tools);
 
   /// Sends a record as it is. False when the helper has gone.

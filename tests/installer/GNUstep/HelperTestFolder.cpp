@@ -22,14 +22,14 @@ HelperTestFolder::~HelperTestFolder() {
 
 std::string HelperTestFolder::Write(const std::string& name, const std::string& text,
                                     mode_t mode) const {
-  const std::string path = Path(name);
+  std::string path = Path(name);
   std::ofstream(path, std::ios::binary) << text;
   EXPECT_EQ(::chmod(path.c_str(), mode), 0) << path;
   return path;
 }
 
 std::string HelperTestFolder::MakeFolder(const std::string& name, mode_t mode) const {
-  const std::string path = Path(name);
+  std::string path = Path(name);
   EXPECT_EQ(::mkdir(path.c_str(), 0700), 0) << path;
   EXPECT_EQ(::chmod(path.c_str(), mode), 0) << path;
   return path;

@@ -37,12 +37,16 @@ TEST_F(HelperToolTableTest, RunsEachToolOfTheRun) {
       {"/bin/rm", "-rf", "/a/Ostrel.plugin"},
       {"/bin/chmod", "-R", "0755", "/a"},
       {"/bin/chmod", "-R", "0777", "/a"},
-      {"/bin/mv", "/a", "/b"},
   };
   for (const Words& request : asTheyAre) {
     EXPECT_EQ(Resolve(request), kAuthorizationSuccess) << reason;
     EXPECT_EQ(command, request);
   }
+}
+
+TEST_F(HelperToolTableTest, MovesToTheDestinationItself) {
+  EXPECT_EQ(Resolve({"/bin/mv", "/a", "/b"}), kAuthorizationSuccess) << reason;
+  EXPECT_EQ(command, Words({"/bin/mv", "-T", "/a", "/b"}));
 }
 
 TEST_F(HelperToolTableTest, CopiesToTheDestinationItself) {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -96,6 +97,25 @@ TEST_F(RootHelperTest, FinishesItsQueueAfterTheInstallerHasGone) {
   OpenGate().Close();
   EXPECT_EQ(client.Finish(), 0);
   EXPECT_TRUE(HelperTestFolder::Exists(made));
+}
+
+TEST_F(RootHelperTest, RunsNothingWhileItIsTheTurnOfAnother) {
+  ASSERT_EQ(::geteuid(), 0U) << "Only root's helpers take turns: run this as root.";
+  std::optional<HelperTurn> turn = HelperTurn::OfThisMachine();
+  ASSERT_TRUE(HelperTestProcess::Await([&turn] { return turn->Take(); }));
+  client.Start();
+  ASSERT_TRUE(client.IsGreeted());
+  ASSERT_EQ(client.Ask({"/bin/mkdir", made}), 0);
+  const HelperDescriptor making = client.TakePipe();
+  EXPECT_NE(client.Ask({"/bin/sh"}), 0);
+  EXPECT_FALSE(HelperTestProcess::IsReadable(making.Number()));
+  EXPECT_FALSE(HelperTestFolder::Exists(made));
+  turn.reset();
+  EXPECT_EQ(HelperTestProcess::ReadAll(making.Number()), "");
+  EXPECT_TRUE(HelperTestFolder::Exists(made));
+  // It is this one's turn now, until it ends.
+  EXPECT_FALSE(HelperTurn::OfThisMachine().Take());
+  EXPECT_EQ(client.Finish(), 0);
 }
 
 TEST_F(RootHelperTest, RunsARequestWhoseAnswerNobodyTakes) {
