@@ -10,9 +10,10 @@
 
 ChildProcess::Setup Application::MakeSetup(const Machine& machine,
                                            const std::vector<std::string>& environment,
-                                           ChildProcess::User user) {
+                                           ChildProcess::User user, const MountView* view,
+                                           const std::vector<std::string>& command) {
   ChildProcess::Setup setup;
-  setup.command = {machine.InstallerProgram()};
+  setup.command = command.empty() ? std::vector{machine.InstallerProgram()} : command;
   setup.environment = machine.Environment();
   setup.environment.emplace_back("PATH=/usr/local/bin:/usr/bin:/bin");
   for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"}) {
@@ -24,12 +25,15 @@ ChildProcess::Setup Application::MakeSetup(const Machine& machine,
   setup.folder = machine.path;
   setup.errors = machine.Path("errors.log");
   setup.user = user;
+  setup.view = view;
   return setup;
 }
 
 Application::Application(const Machine& machine, const std::vector<std::string>& environment,
-                         ChildProcess::User user)
-    : errors(machine.Path("errors.log")), process(MakeSetup(machine, environment, user)) {
+                         ChildProcess::User user, const MountView* view,
+                         const std::vector<std::string>& command)
+    : errors(machine.Path("errors.log")),
+      process(MakeSetup(machine, environment, user, view, command)) {
   orphans.Except(process.Id());
 }
 

@@ -11,9 +11,12 @@
 /// is everything that it left behind.
 class Application {
  public:
-  /// `environment` (NAME=value) is added to what the machine asks for.
+  /// `environment` (NAME=value) is added to what the machine asks for. `view`, when
+  /// given, is the file system that the installer sees. `command` takes the place of
+  /// the installer's program unless it is empty.
   Application(const Machine& machine, const std::vector<std::string>& environment,
-              ChildProcess::User user);
+              ChildProcess::User user, const MountView* view = nullptr,
+              const std::vector<std::string>& command = {});
   ~Application();
 
   bool IsRunning() { return !process.ExitStatus(); }
@@ -22,7 +25,9 @@ class Application {
   /// Waits until nothing started by the installer runs any more. Names what does,
   /// or returns "".
   std::string WaitForTools() const;
+  void Send(int signal) { process.Send(signal); }
   void Kill() { process.Kill(); }
+  pid_t Id() const { return process.Id(); }
   /// Pipes that the installer holds: it keeps one for each tool of a host that it
   /// has launched.
   int CountPipes() const;
@@ -34,7 +39,8 @@ class Application {
  private:
   static ChildProcess::Setup MakeSetup(const Machine& machine,
                                        const std::vector<std::string>& environment,
-                                       ChildProcess::User user);
+                                       ChildProcess::User user, const MountView* view,
+                                       const std::vector<std::string>& command);
 
   Orphans orphans;
   const std::string errors;

@@ -14,6 +14,7 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "tests/endtoend/MountView.h"
 #include "tests/endtoend/Waiting.h"
 
 namespace {
@@ -37,17 +38,6 @@ bool WriteText(const char* path, const std::string& text) {
   return written;
 }
 
-/// An ordinary user becomes root of a namespace in which nobody else exists: to
-/// the program that is root, to the system it is still the same user.
-bool BecomeRoot() {
-  const uid_t user = geteuid();
-  const gid_t group = getegid();
-  if (user == 0) return true;
-  return unshare(CLONE_NEWUSER) == 0 && WriteText("/proc/self/setgroups", "deny") &&
-         WriteText("/proc/self/uid_map", "0 " + std::to_string(user) + " 1") &&
-         WriteText("/proc/self/gid_map", "0 " + std::to_string(group) + " 1");
-}
-
 bool BecomeOrdinary() {
   if (geteuid() != 0) return true;
   return setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0;
@@ -56,7 +46,8 @@ bool BecomeOrdinary() {
 bool Become(ChildProcess::User user) {
   switch (user) {
     case ChildProcess::User::kRoot:
-      return BecomeRoot();
+      // To the program that is root, to the system it is still the same user.
+      return geteuid() == 0 || BecomeRootOfOwnNamespace();
     case ChildProcess::User::kOrdinary:
       return BecomeOrdinary();
     case ChildProcess::User::kSame:
@@ -84,7 +75,8 @@ bool ArrangeDescriptors(const ChildProcess::Setup& setup) {
 [[noreturn]] void Start(const ChildProcess::Setup& setup) {
   setsid();
   signal(SIGIO, SIG_DFL);
-  if (ArrangeDescriptors(setup) && Become(setup.user) && chdir(setup.folder.c_str()) == 0) {
+  if (ArrangeDescriptors(setup) && (setup.view == nullptr || setup.view->Enter()) &&
+      Become(setup.user) && chdir(setup.folder.c_str()) == 0) {
     // Tests that are killed because they take too long must not leave it behind.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     execvpe(setup.command.front().c_str(), Pointers(setup.command).data(),
@@ -116,10 +108,22 @@ std::optional<int> ChildProcess::WaitForEnd() {
   return status;
 }
 
+void ChildProcess::Send(int signal) {
+  if (id > 0 && !ExitStatus()) kill(id, signal);
+}
+
 void ChildProcess::Kill() {
   if (id <= 0 || ExitStatus()) return;
   kill(id, SIGKILL);
   EXPECT_TRUE(WaitForEnd());
+}
+
+bool BecomeRootOfOwnNamespace() {
+  const uid_t user = geteuid();
+  const gid_t group = getegid();
+  return unshare(CLONE_NEWUSER) == 0 && WriteText("/proc/self/setgroups", "deny") &&
+         WriteText("/proc/self/uid_map", "0 " + std::to_string(user) + " 1") &&
+         WriteText("/proc/self/gid_map", "0 " + std::to_string(group) + " 1");
 }
 
 std::string RunCommand(const std::vector<std::string>& command,

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+class MountView;
+
 /// A program that a test has started; killed and reaped with this object at the
 /// latest. What it starts itself is the matter of Orphans.
 class ChildProcess {
@@ -25,6 +27,7 @@ class ChildProcess {
     std::string errors = "/dev/null";      ///< and standard error to this one.
     int inherited = -1;                    ///< A descriptor that the program gets as number 3.
     User user = User::kSame;
+    const MountView* view = nullptr;  ///< The file system that it sees; null is the usual one.
   };
 
   explicit ChildProcess(const Setup& setup);
@@ -38,12 +41,18 @@ class ChildProcess {
   std::optional<int> ExitStatus();
   /// Waits for the end; nothing when it does not come in time.
   std::optional<int> WaitForEnd();
+  /// As kill(2), while it runs.
+  void Send(int signal);
   void Kill();
 
  private:
   pid_t id = -1;
   std::optional<int> status;
 };
+
+/// Makes the calling process, one of an ordinary user, root of a user namespace in
+/// which nobody else exists. Between fork and exec; false when the system refuses.
+bool BecomeRootOfOwnNamespace();
 
 /// Runs a command to its end in the environment of the tests with `environment`
 /// (NAME=value) added; the test fails unless it ends with 0. Returns what it prints.

@@ -69,7 +69,7 @@ void Desktop::CollectWindows(Window parent, const std::string& title,
 std::string Desktop::TitleOf(Window window) const {
   XTextProperty name{};
   if (XGetWMName(display, window, &name) == 0 || name.value == nullptr) return {};
-  const std::string title(reinterpret_cast<const char*>(name.value), name.nitems);
+  std::string title(reinterpret_cast<const char*>(name.value), name.nitems);
   XFree(name.value);
   return title;
 }
@@ -102,15 +102,15 @@ std::optional<Area> Desktop::FindContent(Window window) const {
 
 Picture Desktop::Capture(Window window) const {
   const std::optional<Area> content = FindContent(window);
-  return content ? CaptureArea(*content) : Picture();
+  return content ? Capture(*content) : Picture();
 }
 
 Picture Desktop::Capture() const {
-  return CaptureArea({0, 0, DisplayWidth(display, DefaultScreen(display)),
+  return Capture(Area{0, 0, DisplayWidth(display, DefaultScreen(display)),
                       DisplayHeight(display, DefaultScreen(display))});
 }
 
-Picture Desktop::CaptureArea(Area area) const {
+Picture Desktop::Capture(Area area) const {
   XImage* image = XGetImage(display, DefaultRootWindow(display), area.x, area.y,
                             static_cast<unsigned>(area.width), static_cast<unsigned>(area.height),
                             AllPlanes, ZPixmap);

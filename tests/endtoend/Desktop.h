@@ -32,11 +32,12 @@ class Desktop {
   Picture Capture(WindowId window) const;
   /// What is seen everywhere.
   Picture Capture() const;
+  /// What is seen in an area of the screen, which must be inside.
+  Picture Capture(Area area) const;
   /// Asks the window manager to close the window, as its close button does.
   void PressCloseButton(WindowId window) const;
 
  private:
-  Picture CaptureArea(Area area) const;
   void CollectWindows(WindowId parent, const std::string& title,
                       std::vector<WindowId>* found) const;
   std::string TitleOf(WindowId window) const;

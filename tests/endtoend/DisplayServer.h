@@ -13,6 +13,9 @@ class DisplayServer {
  public:
   DisplayServer();
 
+  /// The server goes without a word. Nothing of this process may be connected to it.
+  void Kill() { server->Kill(); }
+
   /// As the environment variable DISPLAY has it.
   std::string name;
 

@@ -32,12 +32,13 @@ void EndToEndTest::TearDown() {
   application.reset();
 }
 
-void EndToEndTest::Start(User user, std::vector<std::string> environment) {
+void EndToEndTest::Start(User user, std::vector<std::string> environment,
+                         const std::vector<std::string>& command) {
   // What the one before left running would be taken for something of this one.
   application.reset();
   userData = ReadTree(machine.UserData());
   environment.push_back("DISPLAY=" + server->name);
-  application = std::make_unique<Application>(machine, environment, user);
+  application = std::make_unique<Application>(machine, environment, user, view, command);
 }
 
 testing::AssertionResult EndToEndTest::StartOn(Page page) {

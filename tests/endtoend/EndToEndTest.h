@@ -13,6 +13,7 @@
 #include "tests/endtoend/Keyboard.h"
 #include "tests/endtoend/Machine.h"
 #include "tests/endtoend/MessageBox.h"
+#include "tests/endtoend/MountView.h"
 #include "tests/endtoend/Pointer.h"
 #include "tests/endtoend/UnsteadyHand.h"
 #include "tests/endtoend/Wizard.h"
@@ -31,8 +32,11 @@ class EndToEndTest : public testing::Test {
   EndToEndTest();
   void TearDown() override;
 
-  /// Starts the installer on the test's display; `environment` is NAME=value.
-  void Start(User user = User::kRoot, std::vector<std::string> environment = {});
+  /// Starts the installer on the test's display; `environment` is NAME=value. It
+  /// sees the file system through `view` when there is one. `command` is its program
+  /// with arguments; empty is the machine's installer with none.
+  void Start(User user = User::kRoot, std::vector<std::string> environment = {},
+             const std::vector<std::string>& command = {});
   /// Starts it on a furnished machine and goes to a page; at most to the summary.
   testing::AssertionResult StartOn(Page page);
   MessageBox Box(const char* title) { return MessageBox(desktop, pointer, title); }
@@ -52,6 +56,7 @@ class EndToEndTest : public testing::Test {
   Keyboard keyboard;
   Wizard wizard;
   std::unique_ptr<Application> application;
+  const MountView* view = nullptr;
 
  private:
   static std::unique_ptr<DisplayServer> server;

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <functional>
 
 #include "tests/endtoend/EndToEndTest.h"
@@ -86,6 +87,31 @@ TEST_P(LeavingTest, OneQuestionAtATime) {
   ASSERT_TRUE(wizard.IsOn(GetParam()));
   wizard.Click(Wizard::kCancel);
   SayYes();
+}
+
+/// What a session or a terminal sends to whatever still runs when it ends.
+class LeavingBySignalTest : public EndToEndTest, public testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Of, LeavingBySignalTest, testing::Values(SIGTERM, SIGINT),
+                         [](const testing::TestParamInfo<int>& information) {
+                           return information.param == SIGTERM ? "Termination" : "Interruption";
+                         });
+
+TEST_P(LeavingBySignalTest, EndsWithoutAQuestion) {
+  ASSERT_TRUE(StartOn(Wizard::Page::kHosts));
+  application->Send(GetParam());
+  EXPECT_EQ(application->WaitForEnd(), 128 + GetParam());
+  EXPECT_TRUE(IsUntouched());
+  EXPECT_EQ(application->Errors(), "");
+}
+
+TEST_P(LeavingBySignalTest, EndsWhileAQuestionIsUp) {
+  ASSERT_TRUE(StartOn(Wizard::Page::kHosts));
+  wizard.Click(Wizard::kCancel);
+  ASSERT_TRUE(Box(MessageBox::kQuestion).IsUp());
+  application->Send(GetParam());
+  EXPECT_EQ(application->WaitForEnd(), 128 + GetParam());
+  EXPECT_TRUE(IsUntouched());
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ Machine::Machine() : path(folder.Path("Été Mac")) {
   std::filesystem::create_directory(TemporaryFiles());
   std::filesystem::create_directory(InstallerFolder());
   RunCommand({"cp", "-a", OSTREL_BUNDLE, InstallerFolder() + "/"});
+  environment = ReadEnvironment();
   EXPECT_EQ(chmod(folder.path.c_str(), 0755), 0);
 }
 
@@ -47,6 +48,15 @@ void Machine::SetPreferences(const std::vector<std::pair<std::string, std::strin
 }
 
 void Machine::AddUserData() { Script({"user-data"}); }
+
+std::string Machine::AddUser(const std::string& home) const {
+  const std::string ownHome = Path("home/");
+  std::string settings = ReadWholeFile(Path("GNUstep.conf"));
+  for (std::size_t at = 0; (at = settings.find(ownHome, at)) != std::string::npos;) {
+    settings.replace(at, ownHome.size(), Path(home) + "/");
+  }
+  return folder.AddFile("settings of " + home, settings);
+}
 
 void Machine::GiveToNobody() { RunCommand({"chown", "-R", "65534:65534", folder.path}); }
 
@@ -91,14 +101,14 @@ std::string Machine::InstallerProgram() const {
   return InstallerFolder() + "/OstrelInstaller.app/OstrelInstaller";
 }
 
-std::vector<std::string> Machine::Environment() const {
-  std::vector<std::string> environment;
+std::vector<std::string> Machine::ReadEnvironment() const {
+  std::vector<std::string> words;
   std::istringstream lines(Script({"environment"}));
-  for (std::string line; std::getline(lines, line);) environment.push_back(line);
+  for (std::string line; std::getline(lines, line);) words.push_back(line);
   for (const char* name : {"TMP=", "TEMP=", "TMPDIR="}) {
-    environment.push_back(name + TemporaryFiles());
+    words.push_back(name + TemporaryFiles());
   }
-  return environment;
+  return words;
 }
 
 Tree Machine::InstalledTree(const std::string& plugin) const {

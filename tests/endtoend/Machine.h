@@ -22,6 +22,9 @@ class Machine {
   void SetPreferences(const std::vector<std::pair<std::string, std::string>>& folders);
   /// Files in the user's data folder that wait to be moved.
   void AddUserData();
+  /// Another user of the same machine, with a home in the folder `home`. Returns the
+  /// GNUSTEP_CONFIG_FILE that a program of that user needs.
+  std::string AddUser(const std::string& home) const;
   /// From now on everything here belongs to the user "nobody".
   void GiveToNobody();
 
@@ -43,9 +46,11 @@ class Machine {
   /// A file or folder in the resources of the installer.
   std::string Resource(const std::string& name) const;
   std::string InstallerProgram() const;
+  /// Where programs put what they need for a while.
+  std::string TemporaryFiles() const { return folder.Path("t"); }
 
   /// What a program needs to take this for its machine, as NAME=value.
-  std::vector<std::string> Environment() const;
+  const std::vector<std::string>& Environment() const { return environment; }
 
   /// What stands in a plug-in folder after the installation; `plugin` is the
   /// resource that was to be installed there.
@@ -53,10 +58,11 @@ class Machine {
 
  private:
   std::string Script(std::vector<std::string> words) const;
+  std::vector<std::string> ReadEnvironment() const;
   std::string InstallerFolder() const { return Path("Downloads"); }
-  std::string TemporaryFiles() const { return folder.Path("t"); }
 
   TemporaryFolder folder;
+  std::vector<std::string> environment;
 
  public:
   const std::string path;

@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 
 #include "tests/endtoend/Waiting.h"
@@ -26,7 +25,9 @@ struct Child {
 /// A process of the system as its "stat" file tells it: number (name) state parent ...
 bool ReadChild(const std::filesystem::path& folder, Child* child) {
   std::ifstream stream(folder / "stat");
-  const std::string text{std::istreambuf_iterator<char>(stream), {}};
+  // A process may end while it is read about; an iterator would throw then.
+  std::string text;
+  std::getline(stream, text, '\0');
   const std::size_t open = text.find('(');
   const std::size_t close = text.rfind(')');
   if (open == std::string::npos || close == std::string::npos) return false;

@@ -25,14 +25,13 @@ struct Area {
 class Picture {
  public:
   Picture() = default;
-  Picture(int width, int height)
-      : width(width), height(height), pixels(static_cast<std::size_t>(width * height)) {}
+  Picture(int width, int height) : width(width), height(height), pixels(Index(0, height)) {}
 
   bool operator==(const Picture&) const = default;
 
   /// The pixel must be inside.
-  Color& At(int x, int y) { return pixels[static_cast<std::size_t>(y * width + x)]; }
-  Color At(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
+  Color& At(int x, int y) { return pixels[Index(x, y)]; }
+  Color At(int x, int y) const { return pixels[Index(x, y)]; }
   bool IsInside(int x, int y) const { return x >= 0 && y >= 0 && x < width && y < height; }
 
   /// Empty unless the area is inside.
@@ -50,6 +49,11 @@ class Picture {
   int height = 0;
 
  private:
+  std::size_t Index(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+           static_cast<std::size_t>(x);
+  }
+
   std::vector<Color> pixels;
 };
 

@@ -30,7 +30,8 @@ TEST_F(StartUpTest, OpensOneWindowInTheMiddleWithTheKeys) {
   const Area content = desktop.FindContent(windows.front()).value_or(Area{});
   EXPECT_EQ(content.width, 500);
   EXPECT_EQ(content.height, 360);
-  EXPECT_NEAR(content.x + content.width / 2, 512, 5);
+  const int centre = content.x + content.width / 2;
+  EXPECT_NEAR(centre, 512, 5);
   // The platform's centre is above the middle of the desktop.
   EXPECT_LT(content.y + content.height / 2, 500);
   EXPECT_GT(content.y, 50);

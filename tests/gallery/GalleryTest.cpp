@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "tests/endtoend/Waiting.h"
 #include "tests/gallery/Keys.h"
@@ -29,6 +30,16 @@ std::string Join(const Lines& lines) {
   return text;
 }
 
+/// How often the process has gone to sleep up to now.
+long CountSleeps(pid_t process) {
+  const std::string name = "voluntary_ctxt_switches:";
+  std::ifstream status("/proc/" + std::to_string(process) + "/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with(name)) return std::atol(line.c_str() + name.size());
+  }
+  return 0;
+}
+
 }  // namespace
 
 std::unique_ptr<DisplayServer> GalleryTest::server;
@@ -48,9 +59,10 @@ void GalleryTest::SetUp() {
   Start();
   if (isReaderTaught || HasFatalFailure()) return;
   TeachReader();
+  if (HasFatalFailure()) return;
   // The tests begin with a gallery that nothing has happened in.
   process.reset();
-  if (!HasFatalFailure()) Start();
+  Start();
 }
 
 void GalleryTest::Start() {
@@ -78,6 +90,7 @@ void GalleryTest::Start() {
   MoveTo(-70, 590);
   pointer.Press();
   pointer.Release();
+  Settle();
 }
 
 void GalleryTest::TearDown() {
@@ -96,18 +109,23 @@ void GalleryTest::TeachReader() {
   constexpr std::size_t kPortion = 19;
   for (std::size_t at = 0; at < TextReader::kAlphabet.size(); at += kPortion) {
     const std::string letters = TextReader::kAlphabet.substr(at, kPortion);
-    SelectAllIn({170, 40, 180, 20});
-    const Picture before = Look().Crop(kFirstValue);
-    Type(TextReader::Lesson(letters));
-    ASSERT_TRUE(WaitUntil([this, &before, &letters] {
-      const Picture picture = Look();
-      return picture.Crop(kFirstValue) != before && reader.Learn(picture, kFirstValue, letters);
-    })) << "the typed text is not seen among the values";
+    // A second lesson for a machine that is too busy for the first one.
+    ASSERT_TRUE(TeachLetters(letters) || TeachLetters(letters))
+        << "the typed text is not seen among the values";
   }
   SelectAllIn({170, 40, 180, 20});
   Type("Plain text");
   isReaderTaught = true;
   ASSERT_TRUE(HasValue("plain", "Plain text"));
+}
+
+bool GalleryTest::TeachLetters(const std::string& letters) {
+  SelectAllIn({170, 40, 180, 20});
+  const Picture before = Look().Crop(kFirstValue);
+  keyboard.Type("BackSpace");
+  if (!WaitUntil([this, &before] { return Look().Crop(kFirstValue) != before; })) return false;
+  Type(TextReader::Lesson(letters));
+  return WaitUntil([this, &letters] { return reader.Learn(Look(), kFirstValue, letters); });
 }
 
 void GalleryTest::Show(View view) {
@@ -173,14 +191,34 @@ void GalleryTest::DoubleClickAt(int x, int y) {
   pointer.Click();
 }
 
-void GalleryTest::Drag(int fromX, int fromY, int toX, int toY) {
-  constexpr int kSteps = 10;
-  MoveTo(fromX, fromY);
+void GalleryTest::PressAt(int x, int y) {
+  MoveTo(x, y);
   pointer.Press();
-  for (int i = 1; i <= kSteps; ++i) {
-    MoveTo(fromX + (toX - fromX) * i / kSteps, fromY + (toY - fromY) * i / kSteps);
-  }
+  Settle();
+}
+
+void GalleryTest::Drag(int fromX, int fromY, int toX, int toY) {
+  PressAt(fromX, fromY);
+  MoveTo(toX, toY);
   pointer.Release();
+}
+
+void GalleryTest::Settle() const {
+  // It sleeps between its timers, and only when there is nothing to deal with.
+  constexpr long kRounds = 6;
+  // When this is answered, the server has passed on all that was sent before.
+  EXPECT_EQ(desktop.Capture({0, 0, 1, 1}).width, 1);
+  const long before = CountSleeps(process->Id());
+  EXPECT_TRUE(WaitUntil([&] { return CountSleeps(process->Id()) >= before + kRounds; }));
+}
+
+PopupMenu GalleryTest::OpenMenu(int x, int y, Corner corner) {
+  constexpr int kInset = 10;
+  MoveTo(x, y);
+  pointer.Press();
+  const Area content = Content();
+  return {desktop, pointer, content.x + kView.x + corner.x + kInset,
+          content.y + kView.y + corner.y + kInset};
 }
 
 void GalleryTest::Type(const std::string& text) { TypeAnyText(desktop.Connection(), text); }
@@ -189,6 +227,12 @@ void GalleryTest::ClearLog() {
   MoveTo(kClearButton.x + 25 - kView.x, kClearButton.y + 9 - kView.y);
   pointer.Click();
   EXPECT_TRUE(LogIs({}));
+}
+
+void GalleryTest::ClickIn(const char* title, int x, int y) {
+  const Area content = Content(title);
+  pointer.MoveForClick(content.x + x, content.y + y);
+  pointer.Click();
 }
 
 Picture GalleryTest::Look(const char* title) const {

@@ -13,6 +13,7 @@
 #include "tests/endtoend/Machine.h"
 #include "tests/endtoend/Orphans.h"
 #include "tests/endtoend/Pointer.h"
+#include "tests/gallery/PopupMenu.h"
 #include "tests/gallery/TextReader.h"
 
 /// A test of the real gallery under real events, on a display that the tests of a
@@ -30,6 +31,11 @@ class GalleryTest : public testing::Test {
     kScrolling,
     kPointer,
     kDialogs
+  };
+
+  struct Corner {
+    int x;
+    int y;
   };
 
   static constexpr const char* kTitle = "Gallery";
@@ -52,14 +58,23 @@ class GalleryTest : public testing::Test {
   void Focus(Area field);
   void SelectAllIn(Area field);
   void DoubleClickAt(int x, int y);
-  /// Presses at the first place, goes there step by step as a hand does, and
-  /// lets go.
+  /// Presses, and leaves the button down. Widgets ask where the pointer is when
+  /// they hear of the press, so this waits until they have.
+  void PressAt(int x, int y);
+  /// Presses at the first place, goes to the other one and lets go.
   void Drag(int fromX, int fromY, int toX, int toY);
+  /// Waits until the gallery has dealt with all events so far.
+  void Settle() const;
+  /// Presses a widget that opens a menu, and leaves the button down; `corner` is
+  /// the widget's.
+  PopupMenu OpenMenu(int x, int y, Corner corner);
   /// Types ASCII.
   void Type(const std::string& text);
   /// Holds Command.
   void TypeCommand(const std::string& key) { keyboard.TypeWith("Alt_L", key); }
   void ClearLog();
+  /// Clicks a place of another window of the gallery's.
+  void ClickIn(const char* title, int x, int y);
 
   /// The window's content, or that of another window; empty when it is not there.
   Picture Look(const char* title = kTitle) const;
@@ -94,6 +109,7 @@ class GalleryTest : public testing::Test {
  private:
   void Start();
   void TeachReader();
+  bool TeachLetters(const std::string& letters);
   /// The result of a wait, with what the gallery shows.
   testing::AssertionResult Judge(bool holds) const;
 
