@@ -89,13 +89,14 @@ has_window_manager() {
 }
 
 # start_display: an X server with a window manager inside the session; sets DISPLAY.
+# Arguments go to the server.
 start_display() {
   unset DISPLAY XAUTHORITY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
   # The server picks a free number and says which.
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
-  wait_until 30 "the X server did not start; it says: $(tail -n 1 "$session/server.log" 2>/dev/null)" has_display_number
+  Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp "$@" 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
+  wait_until 120 "the X server did not start; it says: $(tail -n 1 "$session/server.log" 2>/dev/null)" has_display_number
   DISPLAY=:$(cat "$session/display")
   export DISPLAY
   openbox --sm-disable >"$session/window-manager.log" 2>&1 </dev/null &
-  wait_until 30 "the window manager did not start." has_window_manager
+  wait_until 120 "the window manager did not start; it says: $(tail -n 1 "$session/window-manager.log" 2>/dev/null)" has_window_manager
 }
