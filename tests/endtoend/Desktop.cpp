@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 // After the others: it defines short words as macros.
 #include <X11/Xatom.h>
 #include <X11/Xutil.h>
@@ -27,17 +29,22 @@ Desktop::~Desktop() {
   if (display != nullptr) XCloseDisplay(display);
 }
 
-bool Desktop::HasWindowManager() const {
-  const Atom check = XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False);
+Window Desktop::WindowNamedByRoot(const char* property) const {
   Atom type = None;
   int format = 0;
   unsigned long count = 0;
   unsigned long rest = 0;
   unsigned char* value = nullptr;
-  XGetWindowProperty(display, DefaultRootWindow(display), check, 0, 1, False, XA_WINDOW, &type,
-                     &format, &count, &rest, &value);
+  XGetWindowProperty(display, DefaultRootWindow(display), XInternAtom(display, property, False), 0,
+                     1, False, XA_WINDOW, &type, &format, &count, &rest, &value);
+  Window window = None;
+  if (count == 1) std::memcpy(&window, value, sizeof window);
   if (value != nullptr) XFree(value);
-  return count == 1;
+  return window;
+}
+
+bool Desktop::HasWindowManager() const {
+  return WindowNamedByRoot("_NET_SUPPORTING_WM_CHECK") != None;
 }
 
 std::vector<Window> Desktop::FindWindows(const std::string& title) const {
@@ -84,7 +91,7 @@ bool Desktop::IsActive(Window window) const {
   Window focused = None;
   int revert = 0;
   XGetInputFocus(display, &focused, &revert);
-  return focused == window;
+  return focused == window && WindowNamedByRoot("_NET_ACTIVE_WINDOW") == window;
 }
 
 std::optional<Area> Desktop::FindContent(Window window) const {

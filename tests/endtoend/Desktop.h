@@ -24,7 +24,7 @@ class Desktop {
   /// The windows with this title that are shown; their content, without the frame.
   std::vector<WindowId> FindWindows(const std::string& title) const;
   std::optional<WindowId> FindWindow(const std::string& title) const;
-  /// Whether keys go to the window.
+  /// Whether keys go to the window, and the window manager shows it so.
   bool IsActive(WindowId window) const;
   /// The content of a window, in pixels of the screen; nothing if it has gone.
   std::optional<Area> FindContent(WindowId window) const;
@@ -40,6 +40,8 @@ class Desktop {
  private:
   void CollectWindows(WindowId parent, const std::string& title,
                       std::vector<WindowId>* found) const;
+  /// The window that a property of the root window names, or none.
+  WindowId WindowNamedByRoot(const char* property) const;
   std::string TitleOf(WindowId window) const;
   bool IsShown(WindowId window) const;
 

@@ -66,6 +66,12 @@ TEST_P(LeavingTest, TheCloseButtonAsksFirst) {
   SayYes();
 }
 
+TEST_P(LeavingTest, TheQuestionOfAClickedCloseButtonIsActive) {
+  ASSERT_TRUE(StartOn(GetParam()));
+  wizard.ClickCloseButton();
+  SayYes();
+}
+
 TEST_P(LeavingTest, QuittingFromTheKeyboardAsksFirst) {
   ASSERT_TRUE(StartOn(GetParam()));
   ASSERT_NO_FATAL_FAILURE(ExpectAllWaysOfNo([this] { TypeQuit(); }));

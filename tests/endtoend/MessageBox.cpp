@@ -19,7 +19,7 @@ Picture MessageBox::Look() const {
 testing::AssertionResult MessageBox::IsUp() const {
   const bool shown = WaitUntil([this] {
     const std::vector<WindowId> windows = desktop.FindWindows(title);
-    if (windows.size() != 1) return false;
+    if (windows.size() != 1 || !desktop.IsActive(windows.front())) return false;
     const Picture picture = desktop.Capture(windows.front());
     // Both its text and its lowest edge, below the buttons, have been drawn.
     return picture.height > kBottomMargin && picture.At(2, 2) == kPaper &&

@@ -20,7 +20,7 @@ class MessageBox {
   MessageBox(const Desktop& desktop, Pointer& pointer, std::string title)
       : desktop(desktop), pointer(pointer), title(std::move(title)) {}
 
-  /// Waits until it is there, the only one of its kind, and drawn.
+  /// Waits until it is there, the only one of its kind, drawn, and the active window.
   testing::AssertionResult IsUp() const;
   /// Waits until no such window is left.
   testing::AssertionResult IsGone() const;

@@ -199,6 +199,8 @@ void Wizard::PressCloseButton() const {
   if (window) desktop.PressCloseButton(*window);
 }
 
+void Wizard::ClickCloseButton() const { ClickAt(489, -10); }
+
 testing::AssertionResult Wizard::Toggle(int row) const {
   const Row before = RowState(row);
   ClickAt(230, 122 + 25 * row);

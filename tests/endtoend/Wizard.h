@@ -57,6 +57,8 @@ class Wizard {
   void ClickAt(int x, int y) const;
   void MoveTo(int x, int y) const;
   void PressCloseButton() const;
+  /// The same with the mouse, where the window manager draws that button.
+  void ClickCloseButton() const;
 
   /// Of the host page, rows counted from the top.
   Row RowState(int row) const { return RowIn(Look(), row); }

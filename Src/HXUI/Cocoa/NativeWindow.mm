@@ -142,7 +142,9 @@ std::int32_t NativeWindow::GetScreenHeight() {
 void* NativeWindow::BeginModal(NSWindow* window, NSView* ownerView) {
   KeepInFront(window, [ownerView window]);
   [window orderFront:nil];
-  return [NSApp beginModalSessionForWindow:window];
+  NSModalSession session = [NSApp beginModalSessionForWindow:window];
+  FocusDialog(window);
+  return session;
 }
 
 bool NativeWindow::ServeModalEvents(void* session) {
