@@ -2,6 +2,7 @@
 
 #include "Src/HXUI/Cocoa/HXCocoaDC.h"
 #include "Src/HXUI/HXPanel.h"
+#include "installer/InstallerTexts.h"
 #include "resources/Pictures.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
 #include "tests/installer/WizardFixture.h"
@@ -119,10 +120,7 @@ class InstallerUIDrawingTest : public WizardFixture {
 
 TEST_F(InstallerUIDrawingTest, WelcomeShowsVersionAndAdvice) {
   BuildAndShow();
-  ExpectTexts({{"This will install Ostrel 3D 2.2.2 (2169) plugin on your computer.\n\n"
-                "It is recommended that you close all other applications before continuing.\n\n"
-                "Click Next to continue, or Cancel to exit the installer.",
-                {170, 70, 330, 360}}});
+  ExpectTexts({{InstallerTexts::Welcome(), {170, 70, 330, 360}}});
   const auto lines = LinesOf(*DrawPage(), kPage);
   // Three paragraphs of one or two lines each, with an empty line between them.
   ASSERT_GE(lines.size(), 4U);
