@@ -15,7 +15,7 @@ set(HXUI_CONTROL_TESTS
   HXTextPanelTest.mm
   NativeMenuTest.mm)
 set(HXUI_CONTROL_TEST_HELPERS)
-if(NOT APPLE)
+if(GNUSTEP)
   # They look into the windows by which GNUstep shows its menus.
   list(APPEND HXUI_CONTROL_TESTS HXComboBoxTest.mm HXMenuTest.mm)
   list(APPEND HXUI_CONTROL_TEST_HELPERS MenuDriver.mm)

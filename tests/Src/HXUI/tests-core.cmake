@@ -14,7 +14,7 @@ set(HXUI_CORE_TESTS
   HXViewMouseTest.mm
   HXViewTest.mm
   HXWindowTest.mm)
-if(NOT APPLE)
+if(GNUSTEP)
   # It asks the X server about the windows.
   list(APPEND HXUI_CORE_TESTS HXWindowModalTest.mm)
 endif()
