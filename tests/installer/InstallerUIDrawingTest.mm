@@ -206,16 +206,18 @@ TEST_F(InstallerUIDrawingTest, SummaryPanelCoversTheFramesRightEdge) {
 }
 
 TEST_F(InstallerUIDrawingTest, ProgressShowsTheStepUnderWay) {
-  AddHosts({9, 13});
+  AddHosts({9, kOtherVersionSlot});
   BuildAndShow();
   script.HoldAt("rights");
   GoToProgress();
   PumpUntil([this] { return script.IsHeld(); }, "the question for rights");
-  const std::pair<int, const char*> steps[] = {
-      {-1, "Preparing to install..."},        {0, "Installing CS3 version..."},
-      {8, "Installing CC 2015.3 version..."}, {13, "Installing 18.0 version..."},
-      {14, "Installing Custom version..."},   {15, "Installing assets..."},
-      {16, "Preparing to install..."}};
+  const std::pair<int, const char*> steps[] = {{-1, "Preparing to install..."},
+                                               {0, "Installing CS3 version..."},
+                                               {8, "Installing CC 2015.3 version..."},
+                                               {kOtherVersionSlot, "Installing 18.0 version..."},
+                                               {kCustomSlot, "Installing Custom version..."},
+                                               {kDataFolderStep, "Installing assets..."},
+                                               {kDataFolderStep + 1, "Preparing to install..."}};
   for (const auto& [step, text] : steps) {
     SCOPED_TRACE(text);
     ui->installStep.store(step);
