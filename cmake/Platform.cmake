@@ -1,6 +1,6 @@
 # `appkit` is AppKit with Foundation as this platform has it: the frameworks on
 # macOS, GNUstep elsewhere. PLATFORM_FOLDER names the half of each file pair
-# that belongs to it.
+# that belongs to it; GNUSTEP is set besides APPLE, which CMake sets itself.
 add_library(appkit INTERFACE)
 
 if(APPLE)
@@ -8,6 +8,7 @@ if(APPLE)
   target_link_libraries(appkit INTERFACE "-framework AppKit" "-framework Carbon" "-framework Security")
 else()
   set(PLATFORM_FOLDER GNUstep)
+  set(GNUSTEP TRUE)
   if(NOT CMAKE_OBJCXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR "GNUstep's AppKit needs clang here: configure with a preset, or with CC=clang CXX=clang++ OBJCXX=clang++.")
   endif()

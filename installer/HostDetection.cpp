@@ -1,39 +1,10 @@
 #include "installer/HostDetection.h"
 
-#include <array>
 #include <string_view>
 
 #include "support/Paths.h"
 
 namespace {
-
-struct VersionRule {
-  std::string_view version;
-  std::size_t slot;
-};
-
-// Tried in this order, the first match wins. "13" therefore also takes 13.5 and
-// 13.8: those two slots are filled from the preference file alone. Installers
-// in the field behave like this, so the order stays.
-constexpr std::array<VersionRule, 8> kApplicationRules = {{
-    {"10.0", 2},
-    {"10.5", 3},
-    {"11", 4},
-    {"12", 5},
-    {"13", 6},
-    {"13.5", 7},
-    {"13.8", 8},
-    {"14.0", 9},
-}};
-
-constexpr std::array<VersionRule, 6> kPreferenceRules = {{
-    {"13.5", 7},
-    {"13.8", 8},
-    {"14.0", 9},
-    {"15.0", 10},
-    {"16.0", 11},
-    {"17.0", 12},
-}};
 
 std::string ContainingFolder(std::string_view path) {
   while (path.size() > 1 && path.back() == '/') path.remove_suffix(1);
@@ -54,9 +25,10 @@ void NoteApplication(const std::string& application, const PropertyValue& info,
   if (!HasHostSignature(info)) return;
   const std::string* version = info.FindString("CFBundleVersion");
   if (version == nullptr) return;
-  for (const VersionRule& rule : kApplicationRules) {
-    if (version->starts_with(rule.version)) {
-      state.hostPath[rule.slot] = JoinPath(ContainingFolder(application), "Plug-ins");
+  for (std::size_t slot = 0; slot < kHostSlotCount; ++slot) {
+    const std::string_view start = kHostCatalogue[slot].applicationVersion;
+    if (!start.empty() && version->starts_with(start)) {
+      state.hostPath[slot] = JoinPath(ContainingFolder(application), "Plug-ins");
       return;
     }
   }
@@ -76,15 +48,16 @@ bool ScanApplications(HostSources& sources, InstallerState& state) {
   return true;
 }
 
-void NotePreference(const std::string& version, const std::string& folder, InstallerState& state) {
-  for (const VersionRule& rule : kPreferenceRules) {
-    if (version == rule.version) {
-      state.hostPath[rule.slot] = folder;
+void NotePreference(const std::string& key, const std::string& folder, InstallerState& state) {
+  for (std::size_t slot = 0; slot < kHostSlotCount; ++slot) {
+    const std::string_view known = kHostCatalogue[slot].preferenceKey;
+    if (!known.empty() && key == known) {
+      state.hostPath[slot] = folder;
       return;
     }
   }
   state.hostPath[kOtherVersionSlot] = folder;
-  state.otherVersionName = version;
+  state.otherVersionName = key;
 }
 
 void ScanPreferenceFile(HostSources& sources, InstallerState& state) {

@@ -1,22 +1,13 @@
 #include "installer/InstallerTexts.h"
 
-#include <cstdio>
-
-namespace {
-
-constexpr int kVersion[3] = {2, 2, 2};
-constexpr int kBuild = 2169;
-
-}  // namespace
+#include "installer/Version.h"
 
 std::string InstallerTexts::Welcome() {
-  char text[256];
-  std::snprintf(text, sizeof text,
-                "This will install Ostrel 3D %d.%d.%d (%d) plugin on your computer.\n\n"
-                "It is recommended that you close all other applications before continuing.\n\n"
-                "Click Next to continue, or Cancel to exit the installer.",
-                kVersion[0], kVersion[1], kVersion[2], kBuild);
-  return text;
+  return std::string("This will install Ostrel 3D ") + kPluginVersion + " (" +
+         std::to_string(kPluginBuild) +
+         ") plugin on your computer.\n\n"
+         "It is recommended that you close all other applications before continuing.\n\n"
+         "Click Next to continue, or Cancel to exit the installer.";
 }
 
 std::string InstallerTexts::HostLabel(const InstallerState& state, std::size_t slot) {

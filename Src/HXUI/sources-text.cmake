@@ -10,9 +10,5 @@ set(HXUI_TEXT_SOURCES
   Cocoa/HXTextDelegate.mm
   Cocoa/HXTextField.mm
   Cocoa/NativeText.mm
-  Cocoa/Workspace.mm)
-if(APPLE)
-  list(APPEND HXUI_TEXT_SOURCES Cocoa/Apple/KeyState.mm)
-else()
-  list(APPEND HXUI_TEXT_SOURCES Cocoa/GNUstep/KeyState.cpp)
-endif()
+  Cocoa/Workspace.mm
+  Cocoa/${PLATFORM_FOLDER}/KeyState.cpp)

@@ -44,7 +44,7 @@ ToolGate::ToolGate() {
 }
 
 bool ToolGate::Arrange() const {
-  return std::all_of(std::begin(kTools), std::end(kTools), [this](const std::string tool) {
+  return std::all_of(std::begin(kTools), std::end(kTools), [this](const std::string& tool) {
     return MountView::Bind(folder.Path("held/" + tool), kPlace + tool);
   });
 }

@@ -29,6 +29,8 @@ class HostDetectionTest : public testing::Test {
   InstallerState state;
 };
 
+constexpr int kOther = static_cast<int>(kOtherVersionSlot);
+
 struct VersionCase {
   const char* version;
   int slot;  // -1: not a known version
@@ -59,9 +61,10 @@ TEST_F(HostDetectionTest, TheFirstMatchingVersionPrefixChoosesTheSlot) {
 }
 
 constexpr VersionCase kPreferenceCases[] = {
-    {"13.5", 7},   {"13.8", 8},  {"14.0", 9},    {"15.0", 10},  {"16.0", 11},   {"17.0", 12},
-    {"18.0", 13},  {"12.0", 13}, {"13.5.1", 13}, {"17.0 ", 13}, {"13", 13},     {"15", 13},
-    {"017.0", 13}, {"", 13},     {"CC", 13},     {"10.0", 13},  {"14.0.0", 13},
+    {"13.5", 7},      {"13.8", 8},        {"14.0", 9},       {"15.0", 10},       {"16.0", 11},
+    {"17.0", 12},     {"18.0", kOther},   {"12.0", kOther},  {"13.5.1", kOther}, {"17.0 ", kOther},
+    {"13", kOther},   {"15", kOther},     {"017.0", kOther}, {"", kOther},       {"CC", kOther},
+    {"10.0", kOther}, {"14.0.0", kOther},
 };
 
 TEST_F(HostDetectionTest, PreferenceKeysAreComparedWholeAndOthersShareOneSlot) {
@@ -75,7 +78,7 @@ TEST_F(HostDetectionTest, PreferenceKeysAreComparedWholeAndOthersShareOneSlot) {
       EXPECT_EQ(fresh.hostPath[static_cast<std::size_t>(slot)],
                 slot == c.slot ? "/P/Plug-ins" : "");
     }
-    EXPECT_EQ(fresh.otherVersionName, c.slot == 13 ? c.version : "");
+    EXPECT_EQ(fresh.otherVersionName, c.slot == kOther ? c.version : "");
   }
 }
 
@@ -162,7 +165,7 @@ TEST_F(HostDetectionTest, ThePreferenceFileWinsOverTheApplication) {
   sources.AddHost("/AE/AE.app", "14.0.1");
   sources.AddPreference("14.0", "/Elsewhere/");
   sources.AddPreference("18.0", "relative//verbatim/");
-  EXPECT_EQ(Detect(), (Found{{9, "/Elsewhere/"}, {13, "relative//verbatim/"}}));
+  EXPECT_EQ(Detect(), (Found{{9, "/Elsewhere/"}, {kOtherVersionSlot, "relative//verbatim/"}}));
   EXPECT_EQ(state.otherVersionName, "18.0");
 }
 
@@ -170,7 +173,7 @@ TEST_F(HostDetectionTest, TheLastUnknownPreferenceKeyWins) {
   sources.AddPreference("18.0", "/P18");
   sources.AddPreference("12.0", "/P12");
   sources.AddPreference("15.0", "/P15");
-  EXPECT_EQ(Detect(), (Found{{10, "/P15"}, {13, "/P12"}}));
+  EXPECT_EQ(Detect(), (Found{{10, "/P15"}, {kOtherVersionSlot, "/P12"}}));
   EXPECT_EQ(state.otherVersionName, "12.0");
 }
 
@@ -203,14 +206,14 @@ TEST_F(HostDetectionTest, AnEmptyFolderInThePreferenceFileIsTakenAsItStands) {
 TEST_F(HostDetectionTest, NothingButPathsAndTheNameIsWritten) {
   state.hostPath[0] = "/CS3";
   state.hostPath[1] = "/CS4";
-  state.hostPath[14] = "/Custom";
+  state.hostPath[kCustomSlot] = "/Custom";
   state.customBitness = 0;
   for (const VersionCase& c : kVersionCases) sources.AddHost("/A/B.app", c.version);
   for (const VersionCase& c : kPreferenceCases) sources.AddPreference(c.version, "/P");
   DetectHosts(sources, state);
   EXPECT_EQ(state.hostPath[0], "/CS3");
   EXPECT_EQ(state.hostPath[1], "/CS4");
-  EXPECT_EQ(state.hostPath[14], "/Custom");
+  EXPECT_EQ(state.hostPath[kCustomSlot], "/Custom");
   EXPECT_THAT(state.hostSelected, testing::Each(0));
   EXPECT_EQ(state.customBitness, 0);
   EXPECT_EQ(state.installStep.load(), -1);

@@ -16,7 +16,7 @@ using Log = std::vector<std::string>;
 const Log kBegin = {"Create", "CopyRights system.privilege.admin"};
 const Log kRefused = {"Create", "CopyRights system.privilege.admin", "~Authorization"};
 const Log kDataFolder = {
-    "redraw 15",
+    "redraw " + std::to_string(kDataFolderStep),
     "exists /Data2/Halvorix",
     "exists /Data1/Halvorix",
     "/bin/mkdir [/Data2/Halvorix]",
@@ -63,11 +63,11 @@ TEST_F(InstallationRunTest, OneHostIsInstalledInFourLaunchesThatAreNotWaitedFor)
       "/bin/chmod [-R] [0755] [/AE/Plug-ins/Halvorix/Ostrel.plugin]",
   };
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + slot + kDataFolder));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, HostsAreInstalledInSlotOrder) {
-  Select(14, "/Custom");
+  Select(kCustomSlot, "/Custom");
   Select(0, "/CS3");
   Select(7, "/CC 2015/");
   Run();
@@ -82,14 +82,14 @@ TEST_F(InstallationRunTest, HostsAreInstalledInSlotOrder) {
       "/bin/rm [-rf] [/CC 2015/Halvorix/Ostrel.plugin]",
       "/usr/bin/ditto [/R/Ostrel64.plugin] [/CC 2015/Halvorix/Ostrel.plugin]",
       "/bin/chmod [-R] [0755] [/CC 2015/Halvorix/Ostrel.plugin]",
-      "redraw 14",
+      "redraw " + std::to_string(kCustomSlot),
       "/bin/mkdir [/Custom/Halvorix]",
       "/bin/rm [-rf] [/Custom/Halvorix/Ostrel.plugin]",
       "/usr/bin/ditto [/R/Ostrel64.plugin] [/Custom/Halvorix/Ostrel.plugin]",
       "/bin/chmod [-R] [0755] [/Custom/Halvorix/Ostrel.plugin]",
   };
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + slots + kDataFolder));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, EachSlotTakesItsPlugin) {
@@ -111,7 +111,7 @@ TEST_F(InstallationRunTest, EachSlotTakesItsPlugin) {
     }
     Log expected;
     for (std::size_t slot = 0; slot < kHostSlotCount; ++slot) {
-      const bool is32 = slot < 2 || (slot == 14 && bitness == 0);
+      const bool is32 = slot < 2 || (slot == kCustomSlot && bitness == 0);
       expected.push_back(std::string("/usr/bin/ditto [/R/Ostrel") + (is32 ? "32" : "64") +
                          ".plugin] [/" + std::to_string(slot) + "/Halvorix/Ostrel.plugin]");
     }
@@ -123,14 +123,14 @@ TEST_F(InstallationRunTest, NothingSelectedStillPreparesTheDataFolder) {
   state.hostPath[5] = "/found but not selected";
   Run();
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + kDataFolder));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, ASelectedSlotWithoutFolderIsSkipped) {
-  Select(14, "");
+  Select(kCustomSlot, "");
   Run();
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + kDataFolder));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, RefusedRightsEndTheRunBeforeTheFirstStep) {
@@ -153,7 +153,7 @@ TEST_F(InstallationRunTest, AFailedCreationIsIgnored) {
   world.createStatus = -60008;
   Run();
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + kDataFolder));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, ACopyThatCannotBeStartedEndsTheRunAtItsSlot) {
@@ -202,7 +202,7 @@ TEST_F(InstallationRunTest, OtherToolsThatCannotBeStartedAreIgnored) {
       "/bin/rm [-rf] [/AE/Halvorix/Ostrel.plugin]",
       "/usr/bin/ditto [/R/Ostrel64.plugin] [/AE/Halvorix/Ostrel.plugin]",
       "/bin/chmod [-R] [0755] [/AE/Halvorix/Ostrel.plugin]",
-      "redraw 15",
+      "redraw " + std::to_string(kDataFolderStep),
       "exists /Data2/Halvorix",
       "exists /Data1/Halvorix",
       "/bin/mv [/Data1/Halvorix] [/Data2/Halvorix]",
@@ -215,14 +215,14 @@ TEST_F(InstallationRunTest, OtherToolsThatCannotBeStartedAreIgnored) {
       "~Authorization",
   };
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + rest));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, TheUsersDataFolderIsMovedWhenTheMachineHasNone) {
   world.existing = {"/Data1/Halvorix"};
   Run();
   const Log rest = {
-      "redraw 15",
+      "redraw " + std::to_string(kDataFolderStep),
       "exists /Data2/Halvorix",
       "exists /Data1/Halvorix",
       "/bin/mv [/Data1/Halvorix] [/Data2/Halvorix]",
@@ -235,14 +235,14 @@ TEST_F(InstallationRunTest, TheUsersDataFolderIsMovedWhenTheMachineHasNone) {
       "~Authorization",
   };
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + rest));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, AnExistingDataFolderStaysAndIsOpened) {
   world.existing = {"/Data1/Halvorix", "/Data2/Halvorix"};
   Run();
   const Log rest = {
-      "redraw 15",
+      "redraw " + std::to_string(kDataFolderStep),
       "exists /Data2/Halvorix",
       "/bin/mkdir [/Data2/Halvorix]",
       "wait -1",
@@ -259,9 +259,12 @@ TEST_F(InstallationRunTest, TheDataPathVariableOnlySuppressesTheMove) {
   world.existing = {"/Data1/Halvorix"};
   Run();
   const Log rest = {
-      "redraw 15",      "/bin/mkdir [/Data2/Halvorix]",
-      "wait -1",        "/bin/chmod [-R] [0777] [/Data2/Halvorix]",
-      "wait -1",        "Free",
+      "redraw " + std::to_string(kDataFolderStep),
+      "/bin/mkdir [/Data2/Halvorix]",
+      "wait -1",
+      "/bin/chmod [-R] [0777] [/Data2/Halvorix]",
+      "wait -1",
+      "Free",
       "~Authorization",
   };
   EXPECT_THAT(world.log, ElementsAreArray(kBegin + rest));
@@ -298,7 +301,7 @@ TEST_F(InstallationRunTest, AMissingPluginIsCopiedFromNowhereAndDoesNotFailTheRu
   world.hasResources = false;
   Run();
   EXPECT_THAT(world.log, testing::Contains("/usr/bin/ditto [] [/AE/Halvorix/Ostrel.plugin]"));
-  ExpectEnd(15, false);
+  ExpectEnd(kDataFolderStep, false);
 }
 
 TEST_F(InstallationRunTest, SelectionsAreOnlyRead) {

@@ -2,6 +2,7 @@
 
 #include "Src/HXUI/Cocoa/HXCocoaDC.h"
 #include "Src/HXUI/HXPanel.h"
+#include "installer/InstallerTexts.h"
 #include "resources/Pictures.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
 #include "tests/installer/WizardFixture.h"
@@ -119,10 +120,7 @@ class InstallerUIDrawingTest : public WizardFixture {
 
 TEST_F(InstallerUIDrawingTest, WelcomeShowsVersionAndAdvice) {
   BuildAndShow();
-  ExpectTexts({{"This will install Ostrel 3D 2.2.2 (2169) plugin on your computer.\n\n"
-                "It is recommended that you close all other applications before continuing.\n\n"
-                "Click Next to continue, or Cancel to exit the installer.",
-                {170, 70, 330, 360}}});
+  ExpectTexts({{InstallerTexts::Welcome(), {170, 70, 330, 360}}});
   const auto lines = LinesOf(*DrawPage(), kPage);
   // Three paragraphs of one or two lines each, with an empty line between them.
   ASSERT_GE(lines.size(), 4U);
@@ -208,16 +206,18 @@ TEST_F(InstallerUIDrawingTest, SummaryPanelCoversTheFramesRightEdge) {
 }
 
 TEST_F(InstallerUIDrawingTest, ProgressShowsTheStepUnderWay) {
-  AddHosts({9, 13});
+  AddHosts({9, kOtherVersionSlot});
   BuildAndShow();
   script.HoldAt("rights");
   GoToProgress();
   PumpUntil([this] { return script.IsHeld(); }, "the question for rights");
-  const std::pair<int, const char*> steps[] = {
-      {-1, "Preparing to install..."},        {0, "Installing CS3 version..."},
-      {8, "Installing CC 2015.3 version..."}, {13, "Installing 18.0 version..."},
-      {14, "Installing Custom version..."},   {15, "Installing assets..."},
-      {16, "Preparing to install..."}};
+  const std::pair<int, const char*> steps[] = {{-1, "Preparing to install..."},
+                                               {0, "Installing CS3 version..."},
+                                               {8, "Installing CC 2015.3 version..."},
+                                               {kOtherVersionSlot, "Installing 18.0 version..."},
+                                               {kCustomSlot, "Installing Custom version..."},
+                                               {kDataFolderStep, "Installing assets..."},
+                                               {kDataFolderStep + 1, "Preparing to install..."}};
   for (const auto& [step, text] : steps) {
     SCOPED_TRACE(text);
     ui->installStep.store(step);

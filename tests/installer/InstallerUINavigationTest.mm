@@ -195,7 +195,7 @@ TEST_F(InstallerUINavigationTest, NothingFoundAndNothingChosenIsRefused) {
 }
 
 TEST_F(InstallerUINavigationTest, EverythingUntickedIsRefusedUntilOneIsTicked) {
-  AddHosts({10, 13});
+  AddHosts({10, kOtherVersionSlot});
   BuildAndShow();
   GoToHosts();
   Press(*CheckBoxes()[0]);
@@ -208,11 +208,12 @@ TEST_F(InstallerUINavigationTest, EverythingUntickedIsRefusedUntilOneIsTicked) {
 }
 
 TEST_F(InstallerUINavigationTest, EachFoundHostAloneIsEnough) {
-  AddHosts({2, 7, 13});
+  AddHosts({2, 7, kOtherVersionSlot});
   BuildAndShow();
   GoToHosts();
   for (std::size_t ticked = 0; ticked < 3; ++ticked) {
-    for (const std::size_t slot : {2U, 7U, 13U}) ui->hostSelected[slot] = 0;
+    for (const std::size_t slot : std::initializer_list<std::size_t>{2, 7, kOtherVersionSlot})
+      ui->hostSelected[slot] = 0;
     Press(*CheckBoxes()[ticked]);
     Press(NextButton());
     ExpectSummary();

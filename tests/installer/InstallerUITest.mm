@@ -178,7 +178,7 @@ TEST_F(InstallerUITest, SummaryPanelHoldsBackingTextAndScrollBar) {
 TEST_F(InstallerUITest, WithoutHostsThereIsOnlyCustom) {
   Build();
   ExpectRows(0);
-  EXPECT_EQ(Selection(), std::vector<int>(15, 0));
+  EXPECT_EQ(Selection(), std::vector<int>(kHostSlotCount, 0));
 }
 
 TEST_F(InstallerUITest, ThreeHostsStandInThreePackedRows) {
@@ -189,29 +189,31 @@ TEST_F(InstallerUITest, ThreeHostsStandInThreePackedRows) {
   EXPECT_EQ(BrowseButton().GetPosition().y, 110);
 }
 
-TEST_F(InstallerUITest, AllHostsThatCanBeFoundStandInTwelveRows) {
-  AddHosts({2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13});
+TEST_F(InstallerUITest, AllHostsThatCanBeFoundStandInRows) {
+  AddAllHosts();
   Build();
-  ExpectRows(12);
-  EXPECT_EQ(Selection(), (std::vector<int>{0, 0, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0}));
+  ExpectRows(static_cast<std::int32_t>(kOtherVersionSlot) - 1);
+  std::vector<int> expected(kHostSlotCount, 1);
+  expected[0] = expected[1] = expected[kCustomSlot] = 0;
+  EXPECT_EQ(Selection(), expected);
   EXPECT_EQ(ui->hostPath[2], "/Hosts/2/Plug-ins");
-  EXPECT_EQ(ui->hostPath[13], "/Hosts/13/Plug-ins");
+  EXPECT_EQ(ui->hostPath[12], "/Hosts/12/Plug-ins");
   EXPECT_EQ(ui->otherVersionName, "18.0");
 }
 
 TEST_F(InstallerUITest, FoundHostsStartTickedAndCustomDoesNot) {
   AddHosts({5, 11});
   Build();
-  std::vector<int> expected(15, 0);
+  std::vector<int> expected(kHostSlotCount, 0);
   expected[5] = expected[11] = 1;
   EXPECT_EQ(Selection(), expected);
 }
 
 TEST_F(InstallerUITest, EachBoxIsBoundToItsSlot) {
-  AddHosts({5, 7, 13});
+  AddHosts({5, 7, kOtherVersionSlot});
   BuildAndShow();
   GoToHosts();
-  const std::size_t slots[] = {5, 7, 13, 14};
+  const std::size_t slots[] = {5, 7, kOtherVersionSlot, kCustomSlot};
   const auto boxes = CheckBoxes();
   ASSERT_EQ(boxes.size(), std::size(slots));
   for (std::size_t row = 0; row < boxes.size(); ++row) {
@@ -242,7 +244,7 @@ TEST_F(InstallerUITest, AsksTheMachineOnceWhileItIsBuilt) {
 TEST_F(InstallerUITest, ManyWizardsComeAndGo) {
   for (int i = 0; i < 20; ++i) {
     hosts = std::make_unique<FakeHostSources>();
-    AddHosts({9, 13});
+    AddHosts({9, kOtherVersionSlot});
     BuildAndShow();
     GoToHosts();
     ui.reset();

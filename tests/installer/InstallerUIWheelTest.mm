@@ -7,7 +7,7 @@ namespace {
 /// The wheel, which scrolls the text of the page wherever the pointer is.
 class InstallerUIWheelTest : public WizardFixture {
  protected:
-  InstallerUIWheelTest() { AddHosts({2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}); }
+  InstallerUIWheelTest() { AddAllHosts(); }
 
   int AgreementY() const { return Agreement().GetPosition().y; }
   int SummaryY() const { return Summary().GetPosition().y; }

@@ -22,9 +22,11 @@ class WizardFixture : public ToolkitFixture {
   WizardFixture() = default;
   ~WizardFixture() override;
 
-  /// Lets detection find the hosts of these slots (2 to 13), with the plug-in
-  /// folders "/Hosts/<slot>/Plug-ins"; the one of slot 13 is called 18.0.
+  /// Lets detection find the hosts of these slots, with the plug-in
+  /// folders "/Hosts/<slot>/Plug-ins"; the one of the unlisted version is called 18.0.
   void AddHosts(const std::vector<std::size_t>& slots);
+  /// All that can be found.
+  void AddAllHosts();
   /// Builds the wizard; it stays hidden.
   void Build();
   void BuildAndShow();

@@ -1,17 +1,9 @@
 #include "tests/installer/WizardFixture.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace {
-
-/// By slot, from slot 2: in an application bundle up to CC 2014, in the
-/// preference file afterwards.
-constexpr std::array<const char*, 12> kVersions = {"10.0", "10.5", "11",   "12",   "13",   "13.5",
-                                                   "13.8", "14.0", "15.0", "16.0", "17.0", "18.0"};
-constexpr std::size_t kFirstSlot = 2;
-constexpr std::size_t kFirstPreferenceSlot = 7;
 
 HXPoint MiddleOf(const HXObject& widget) {
   const HXSize size = widget.GetSize();
@@ -57,13 +49,18 @@ WizardFixture::~WizardFixture() {
 void WizardFixture::AddHosts(const std::vector<std::size_t>& slots) {
   for (const std::size_t slot : slots) {
     const std::string folder = "/Hosts/" + std::to_string(slot);
-    const char* version = kVersions.at(slot - kFirstSlot);
-    if (slot < kFirstPreferenceSlot) {
-      hosts->AddHost(folder + "/After Effects.app", version);
+    const HostSlot& host = kHostCatalogue.at(slot);
+    const std::string key(slot == kOtherVersionSlot ? "18.0" : host.preferenceKey);
+    if (key.empty()) {
+      hosts->AddHost(folder + "/After Effects.app", std::string(host.applicationVersion));
     } else {
-      hosts->AddPreference(version, folder + "/Plug-ins");
+      hosts->AddPreference(key, folder + "/Plug-ins");
     }
   }
+}
+
+void WizardFixture::AddAllHosts() {
+  for (std::size_t slot = 2; slot <= kOtherVersionSlot; ++slot) AddHosts({slot});
 }
 
 void WizardFixture::Build() {

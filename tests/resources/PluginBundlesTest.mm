@@ -57,7 +57,7 @@ TEST(PluginBundlesTest, TheBundlesToInstallNameAnExecutableThatIsThere) {
 TEST(PluginBundlesTest, TheBundlesToInstallCarryTheVersionOfTheWelcomePage) {
   for (const char* name : kBundles) {
     SCOPED_TRACE(name);
-    EXPECT_EQ(InfoValue(ConfiguredBundle(name), @"CFBundleVersion").rfind("2.2.2", 0), 0U);
+    EXPECT_EQ(InfoValue(ConfiguredBundle(name), @"CFBundleVersion").rfind(PLUGIN_VERSION, 0), 0U);
   }
 }
 

@@ -2,12 +2,10 @@
 
 #include <gtest/gtest.h>
 
-// After GoogleTest: it defines names as macros that GoogleTest uses.
-#include <X11/Xlib.h>
-
 #include <cmath>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
+#import "tests/Src/HXUI/PlatformInput.h"
 
 @interface MenuDriverTarget : NSObject {
  @public
@@ -45,14 +43,6 @@ NSMenuView* OpenMenuView() {
     if (view != nil && [[view menu] supermenu] == nil) return view;
   }
   return nil;
-}
-
-void WarpTo(NSPoint onScreen) {
-  static Display* display = XOpenDisplay(nullptr);
-  const CGFloat height = [[NSScreen mainScreen] frame].size.height;
-  XWarpPointer(display, None, DefaultRootWindow(display), 0, 0, 0, 0, static_cast<int>(onScreen.x),
-               static_cast<int>(height - onScreen.y));
-  XSync(display, False);
 }
 
 void Post(NSEventType type, NSWindow* window) {
@@ -133,7 +123,7 @@ void MenuDriver::ClickWhenReached(NSMenuView* view, NSInteger wanted) {
       const NSRect item = [view convertRect:[view rectOfItemAtIndex:wanted] toView:nil];
       onScreen = [window convertBaseToScreen:NSMakePoint(NSMidX(item), NSMidY(item))];
     }
-    WarpTo(onScreen);
+    MoveRealPointer(onScreen);
     if ([view highlightedItemIndex] != wanted) return;
   }
   // Moving over the submenu's item is what opens the submenu.

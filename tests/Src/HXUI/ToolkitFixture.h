@@ -36,7 +36,7 @@ class DrawnPixels {
 
 /// Base of the toolkit's tests: the real AppKit on a real display, one real
 /// window (`window`, 400 by 300, visible) and real or synthesised events. The
-/// program needs DISPLAY and a window manager.
+/// program needs a display with a window manager.
 class ToolkitFixture : public ::testing::Test {
  protected:
   ToolkitFixture();

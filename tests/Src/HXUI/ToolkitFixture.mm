@@ -1,11 +1,9 @@
 #include "tests/Src/HXUI/ToolkitFixture.h"
 
-#include <X11/Xlib.h>
-
 #include <chrono>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
-#import "tests/Src/HXUI/WheelEvents.h"
+#import "tests/Src/HXUI/PlatformInput.h"
 
 @interface LaterAction : NSObject {
  @public
@@ -28,12 +26,6 @@ namespace {
 
 /// Far longer than anything takes, so that a busy machine fails no test.
 constexpr auto kPatience = std::chrono::seconds(30);
-
-/// A connection of our own; the program's belongs to AppKit.
-Display* TestDisplay() {
-  static Display* display = XOpenDisplay(nullptr);
-  return display;
-}
 
 NSPoint InWindow(const HXObject& widget, HXPoint point) {
   return [widget.GetNativeView() convertPoint:ToNative(point) toView:nil];
@@ -148,10 +140,7 @@ void ToolkitFixture::PumpUntil(const std::function<bool()>& condition, const cha
 
 void ToolkitFixture::WarpPointer(const HXObject& widget, HXPoint point) {
   const HXPoint screen = widget.ClientToScreen(point);
-  const auto height = static_cast<int>([[NSScreen mainScreen] frame].size.height);
-  Display* display = TestDisplay();
-  XWarpPointer(display, None, DefaultRootWindow(display), 0, 0, 0, 0, screen.x, height - screen.y);
-  XSync(display, False);
+  MoveRealPointer(NSMakePoint(screen.x, screen.y));
 }
 
 void ToolkitFixture::SendMouse(NSEventType type, HXObject& widget, HXPoint point, int clickCount,
@@ -198,20 +187,7 @@ void ToolkitFixture::Click(HXObject& widget, HXPoint point) {
 
 void ToolkitFixture::SendWheel(HXObject& widget, HXPoint point, double deltaY) {
   WarpPointer(widget, point);
-  NSWindow* native = [widget.GetNativeView() window];
-  [native sendEvent:[NSEvent mouseEventWithType:NSScrollWheel
-                                       location:InWindow(widget, point)
-                                  modifierFlags:0
-                                      timestamp:0
-                                   windowNumber:[native windowNumber]
-                                        context:nil
-                                    eventNumber:0
-                                     clickCount:1
-                                       pressure:0
-                                   buttonNumber:0
-                                         deltaX:0
-                                         deltaY:deltaY
-                                         deltaZ:0]];
+  TurnWheel(widget.GetNativeView(), InWindow(widget, point), deltaY);
 }
 
 void ToolkitFixture::SendKey(HXWindow& target, NSString* characters, NSUInteger modifiers) {

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "installer/Cocoa/PlatformHostSources.h"
+#include "installer/HostCatalogue.h"
 #include "tests/installer/PretendMachine.h"
 
 namespace {
@@ -41,7 +42,7 @@ TEST_F(PlatformHostSourcesTest, ReadsTheHostsPreferenceFileInTheMachinesLibrary)
   machine.RegisterApplications();
   const auto lines = machine.Probe("AEFile.aep");
   EXPECT_THAT(lines, Contains("host 9 /P14"));
-  EXPECT_THAT(lines, Contains("host 13 /P18"));
+  EXPECT_THAT(lines, Contains("host " + std::to_string(kOtherVersionSlot) + " /P18"));
   EXPECT_THAT(lines, Contains("other 18.0"));
   EXPECT_THAT(lines,
               Contains("preferences " +

@@ -34,11 +34,12 @@ void TakeConnectionAsInput() {
   sockaddr_un given{};
   socklen_t size = sizeof(given);
   // Bound without a name, it is given one by the system.
-  ::bind(listening, reinterpret_cast<const sockaddr*>(&nameless), sizeof(nameless.sun_family));
+  static_cast<void>(
+      ::bind(listening, reinterpret_cast<const sockaddr*>(&nameless), sizeof(nameless.sun_family)));
   ::listen(listening, 1);
   ::getsockname(listening, reinterpret_cast<sockaddr*>(&given), &size);
   const int connecting = ::socket(AF_UNIX, SOCK_SEQPACKET, 0);
-  ::connect(connecting, reinterpret_cast<const sockaddr*>(&given), size);
+  static_cast<void>(::connect(connecting, reinterpret_cast<const sockaddr*>(&given), size));
   ::dup2(::accept(listening, nullptr, nullptr), STDIN_FILENO);
 }
 

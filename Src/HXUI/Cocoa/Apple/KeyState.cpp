@@ -1,6 +1,8 @@
 #include "Src/HXUI/Cocoa/KeyState.h"
 
-#import <ApplicationServices/ApplicationServices.h>
+#include <ApplicationServices/ApplicationServices.h>
+
+#include <cstdint>
 
 namespace {
 
