@@ -1,5 +1,8 @@
 # The tests of the widget tree, views, windows, threads and timers.
 set(HXUI_CORE_TESTS
+  AssertTest.cpp
+  Cocoa/ApplicationStartTest.mm
+  Cocoa/DisplayCheckTest.cpp
   HXCocoaTimerTest.mm
   HXControlTest.mm
   HXEventSinksTest.mm
