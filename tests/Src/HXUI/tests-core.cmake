@@ -3,6 +3,8 @@ set(HXUI_CORE_TESTS
   AssertTest.cpp
   Cocoa/ApplicationStartTest.mm
   Cocoa/DisplayCheckTest.cpp
+  Cocoa/PictureGuardTest.cpp
+  Cocoa/SubviewRemovalTest.mm
   HXCocoaTimerTest.mm
   HXControlTest.mm
   HXEventSinksTest.mm
