@@ -1,12 +1,13 @@
 """The test programs as the build makes them, and again with one source replaced."""
 
 import json
-import os
 import pathlib
 import re
 import shlex
-import signal
 import subprocess
+import sys
+
+from confined import TOO_LATE
 
 
 class Programs:
@@ -46,15 +47,12 @@ class Programs:
         return None
 
 
-def run(command, limit, output=subprocess.DEVNULL, **keywords):
+def run(command, limit, **keywords):
     """The exit status; None when it takes longer than `limit` seconds."""
-    with subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output, stderr=output,
-                          start_new_session=True, **keywords) as process:
-        try:
-            return process.wait(limit)
-        except subprocess.TimeoutExpired:
-            os.killpg(process.pid, signal.SIGKILL)
-            return None
+    confined = [sys.executable, "-S", "-E", str(pathlib.Path(__file__).with_name("confined.py")), str(limit)]
+    status = subprocess.run(confined + command, check=False, stdin=subprocess.DEVNULL,
+                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **keywords).returncode
+    return None if status == TOO_LATE else status
 
 
 class Bench:
@@ -72,16 +70,6 @@ class Bench:
 
     def path(self, program):
         return self.folder / program
-
-    def end_leftovers(self):
-        """Ends what was started from this folder and has outlived a failed run: a helper
-        would keep its turn."""
-        for entry in pathlib.Path("/proc").glob("[0-9]*"):
-            try:
-                if os.readlink(entry / "exe").startswith(f"{self.folder}/"):
-                    os.kill(int(entry.name), signal.SIGKILL)
-            except OSError:
-                continue
 
     def prepare(self, program):
         """Makes the sources that name a started program name the one of this folder."""

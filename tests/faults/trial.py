@@ -174,7 +174,6 @@ class Trial:
             status = run(suite_command(self.bench, program, suite.name), limit, env=self.environment)
             if status == 0:
                 return ""
-            self.bench.end_leftovers()
             if status is None:
                 return "hangs"
         return "fails"
