@@ -78,6 +78,10 @@ class InstallerUI : public HXWindow, public InstallerState {
   std::uint32_t GetPage() const { return page; }
   InstallationWorld& GetWorld() { return *world; }
 
+ protected:
+  /// Draws this page from now on, without what leads to it: the panels and buttons stay.
+  void TurnTo(Page newPage) { page = newPage; }
+
  private:
   // Building, each its own part of the window.
   void BuildButtons();

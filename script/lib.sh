@@ -100,3 +100,21 @@ start_display() {
   openbox --sm-disable >"$session/window-manager.log" 2>&1 </dev/null &
   wait_until 120 "the window manager did not start; it says: $(tail -n 1 "$session/window-manager.log" 2>/dev/null)" has_window_manager
 }
+
+# open_test_session FOLDER: a session with a display, and folders of its own for tests on a
+# machine that has nothing on it, not the one they run on. Who calls it ends the session.
+open_test_session() {
+  open_session "$1"
+  # Some tests ask as an ordinary user, who cannot get into the session's own folder.
+  mkdir "$1/files"
+  chmod 755 "$1/files"
+  TEST_TMPDIR=$1/files
+  export TEST_TMPDIR
+  start_display
+  "$project/script/machine" create "$1/machine"
+  "$project/script/machine" environment "$1/machine" >"$1/environment"
+  while IFS= read -r line; do
+    export "${line?}"
+  done <"$1/environment"
+  unset OSTREL_DATA_PATH OSTREL_USER_PATH
+}

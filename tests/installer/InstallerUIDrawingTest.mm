@@ -154,6 +154,33 @@ TEST_F(InstallerUIDrawingTest, HostPageAsksInBoldWithinTwoLines) {
   EXPECT_LE(lines[1].y + lines[1].height, 100);
 }
 
+TEST_F(InstallerUIDrawingTest, AssetsPageShowsTheChosenFolder) {
+  BuildAndShow();
+  GoToAssets();
+  // The second is wrapped.
+  for (const std::string folder :
+       {"/Users/Shared/Halvorix", "/Volumes/Pictures and sounds/of all the projects/Halvorix"}) {
+    SCOPED_TRACE(folder);
+    ui->assetsPath = folder;
+    ExpectTexts({{"Select the location where Ostrel 3D assets will be installed on:",
+                  {170, 70, 330, 360},
+                  11,
+                  HXCocoaDC::kBold},
+                 {"Selected location:", {170, 220, 330, 360}, 11, HXCocoaDC::kBold},
+                 {folder, {170, 235, 320, 360}}});
+  }
+  const auto lines = LinesOf(*DrawPage(), {160, 210, 340, 100});
+  ASSERT_EQ(lines.size(), 3U);
+  for (const HXRect& line : lines) EXPECT_LE(line.x + line.width, 490);
+}
+
+TEST_F(InstallerUIDrawingTest, AssetsPageWithoutAFolderHasTheTwoTextsOnly) {
+  BuildAndShow();
+  GoToAssets();
+  EXPECT_EQ(LinesOf(*DrawPage(), {160, 210, 340, 100}).size(), 1U);
+  ExpectSurroundings(*WizardFixture::Draw(*ui));
+}
+
 TEST_F(InstallerUIDrawingTest, SummaryExplainsAndFrames) {
   AddHosts({9});
   BuildAndShow();

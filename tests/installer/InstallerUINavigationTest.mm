@@ -116,6 +116,16 @@ TEST_F(InstallerUINavigationTest, BackFromTheHostsGoesToTheWelcome) {
   ExpectLicence();
 }
 
+TEST_F(InstallerUINavigationTest, TheAssetsPageLeadsBackToTheHostsAndNowhereElse) {
+  AddHosts({9});
+  BuildAndShow();
+  GoToAssets();
+  Press(NextButton());
+  ExpectPage(InstallerUI::kAssetsPage, "< Back", "Next >", true, true);
+  Press(BackButton());
+  ExpectHosts();
+}
+
 TEST_F(InstallerUINavigationTest, BackFromTheSummaryKeepsTheTicks) {
   AddHosts({10, 12});
   BuildAndShow();

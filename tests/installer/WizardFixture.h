@@ -70,6 +70,8 @@ class WizardFixture : public ToolkitFixture {
   /// From the welcome page, each of them.
   void GoToLicence() { Press(NextButton()); }
   void GoToHosts();
+  /// The page that no button leads to.
+  void GoToAssets();
   void GoToSummary();
   void GoToProgress();
   void GoToFinish();

@@ -17,6 +17,8 @@ class CountedWizard : public InstallerUI {
                 int& drawCount)
       : InstallerUI(sources, makeWorld), draws(drawCount) {}
 
+  using InstallerUI::TurnTo;
+
   void Draw() override {
     ++draws;
     InstallerUI::Draw();
@@ -114,6 +116,12 @@ void WizardFixture::Settle() {
 // What the user does
 
 void WizardFixture::Press(HXObject& widget) { Click(widget, MiddleOf(widget)); }
+
+void WizardFixture::GoToAssets() {
+  GoToHosts();
+  HostPanel().SetVisible(false);
+  static_cast<CountedWizard&>(*ui).TurnTo(InstallerUI::kAssetsPage);
+}
 
 void WizardFixture::GoToHosts() {
   GoToLicence();

@@ -13,6 +13,47 @@
 // After the others: it defines short words as macros.
 #include <X11/Xutil.h>
 
+/// An input of the run loop whose handler fails, once.
+@interface FailingInput : NSObject <RunLoopEvents> {
+  int pipeEnds[2];
+}
+- (void)offer;
+- (BOOL)hasFailed;
+@end
+
+@implementation FailingInput
+- (instancetype)init {
+  self = [super init];
+  pipeEnds[0] = pipeEnds[1] = -1;
+  return self;
+}
+
+- (void)offer {
+  ASSERT_EQ(pipe(pipeEnds), 0);
+  ASSERT_EQ(write(pipeEnds[1], "x", 1), 1);
+  [[NSRunLoop currentRunLoop] addEvent:reinterpret_cast<void*>(static_cast<intptr_t>(pipeEnds[0]))
+                                  type:ET_RDESC
+                               watcher:self
+                               forMode:NSDefaultRunLoopMode];
+}
+
+- (BOOL)hasFailed {
+  return pipeEnds[0] < 0;
+}
+
+- (void)receivedEvent:(void*)data
+                 type:(RunLoopEventType)type
+                extra:(void*)extra
+              forMode:(NSString*)mode {
+  (void)extra;
+  [[NSRunLoop currentRunLoop] removeEvent:data type:type forMode:mode all:YES];
+  close(pipeEnds[0]);
+  close(pipeEnds[1]);
+  pipeEnds[0] = pipeEnds[1] = -1;
+  [NSException raise:NSPortTimeoutException format:@"a server of the platform's has gone"];
+}
+@end
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -81,6 +122,22 @@ TEST_F(HXWindowModalTest, CloseButtonEndsTheRunWithOne) {
   EXPECT_TRUE(dialog.IsVisible());
   EXPECT_TRUE(dialog.IsClosed());
   EXPECT_EQ(dialog.closings, 1);
+}
+
+TEST_F(HXWindowModalTest, TheRunOutlivesAFailureOfThePlatformWhileItWaits) {
+  FailingInput* input = [[[FailingInput alloc] init] autorelease];
+  RecordingWindow dialog(window.get());
+  dialog.onTimer = [&] {
+    if (![input hasFailed]) return;
+    dialog.SetResult(5);
+    dialog.EndModal();
+  };
+  HXCocoaTimer timer;
+  timer.SetOwner(&dialog, 1);
+  timer.Start(5, false);
+  [input offer];
+  EXPECT_EQ(dialog.RunModal(), 5);
+  EXPECT_TRUE([input hasFailed]);
 }
 
 TEST_F(HXWindowModalTest, EndModalReturnsTheResultAndLeavesTheWindow) {

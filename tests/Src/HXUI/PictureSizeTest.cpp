@@ -30,6 +30,41 @@ TEST(PictureSizeTest, JpegNamesItsSizeInItsFrame) {
   EXPECT_EQ(ClaimedPictureSize(Jpeg({0xFF, 0xC2, 0, 7, 8, 0, 7, 1, 2})), (HXSize{258, 7}));
 }
 
+TEST(PictureSizeTest, OnlyFramesOfAJpegNameASize) {
+  for (unsigned marker = 0xC0; marker <= 0xFE; ++marker) {
+    const bool isFrame = marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+    // Neither these nor the scan and the end of the picture are followed by a segment.
+    if (marker >= 0xD0 && marker <= 0xDA) continue;
+    const auto size =
+        ClaimedPictureSize(Jpeg({0xFF, static_cast<unsigned char>(marker), 0, 7, 8, 0, 7, 1, 2}));
+    EXPECT_EQ(size.has_value(), isFrame) << marker;
+  }
+}
+
+TEST(PictureSizeTest, MarkersWithoutContentAreSteppedOver) {
+  for (const int marker : {0x01, 0xD0, 0xD4, 0xD8}) {
+    EXPECT_EQ(ClaimedPictureSize(Jpeg(
+                  {0xFF, static_cast<unsigned char>(marker), 0xFF, 0xC0, 0, 7, 8, 0, 7, 1, 2})),
+              (HXSize{258, 7}))
+        << marker;
+  }
+}
+
+TEST(PictureSizeTest, AJpegHasOneFrameOfAtLeastItsSize) {
+  const Bytes frame{0xFF, 0xC0, 0, 7, 8, 0, 7, 1, 2};
+  Bytes two = frame;
+  two.insert(two.end(), frame.begin(), frame.end());
+  EXPECT_EQ(ClaimedPictureSize(Jpeg(two)), std::nullopt);
+  EXPECT_EQ(ClaimedPictureSize(Jpeg({0xFF, 0xC0, 0, 6, 8, 0, 7, 1, 2})), std::nullopt);
+  EXPECT_EQ(ClaimedPictureSize(Jpeg({0xFF, 0xC0, 0, 2, 0xFF, 0xFE, 0, 2})), std::nullopt);
+}
+
+TEST(PictureSizeTest, SizesAreReadUpTo31Bits) {
+  EXPECT_EQ(ClaimedPictureSize(Png({0x7F, 0xFF, 0xFF, 0xFF, 0x12, 0x34, 0x56, 0x78})),
+            (HXSize{0x7FFFFFFF, 0x12345678}));
+  EXPECT_EQ(ClaimedPictureSize(Png({0, 0, 0, 7, 0x80, 0, 0, 0})), std::nullopt);
+}
+
 TEST(PictureSizeTest, TablesAndFillingOfAJpegAreNoFrames) {
   EXPECT_EQ(ClaimedPictureSize(Jpeg({0xFF, 0xC4, 0,    9,    8,    0, 1, 0, 1, 9, 9, 0xFF,
                                      0xD0, 0xFF, 0xFF, 0xFF, 0xC1, 0, 7, 8, 0, 7, 1, 2})),

@@ -1,5 +1,10 @@
 # The tests of the widget tree, views, windows, threads and timers.
 set(HXUI_CORE_TESTS
+  AssertTest.cpp
+  Cocoa/ApplicationStartTest.mm
+  Cocoa/DisplayCheckTest.cpp
+  Cocoa/PictureGuardTest.cpp
+  Cocoa/SubviewRemovalTest.mm
   HXCocoaTimerTest.mm
   HXControlTest.mm
   HXEventSinksTest.mm

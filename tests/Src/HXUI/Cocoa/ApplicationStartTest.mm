@@ -1,0 +1,94 @@
+#include "Src/HXUI/Cocoa/ApplicationStart.h"
+
+#import <AppKit/AppKit.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+
+namespace {
+
+/// The start of this very program, which all tests have behind them, and of another one.
+class ApplicationStartTest : public ::testing::Test {
+ protected:
+  ApplicationStartTest() : pool([[NSAutoreleasePool alloc] init]) {}
+  ~ApplicationStartTest() override { [pool drain]; }
+
+  static bool EndsTheProgram(int number) {
+    struct sigaction action {};
+    return sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_DFL;
+  }
+
+ private:
+  NSAutoreleasePool* pool;
+};
+
+TEST_F(ApplicationStartTest, TheUsualSignalsEndTheProgram) {
+  EXPECT_TRUE(EndsTheProgram(SIGTERM));
+  EXPECT_TRUE(EndsTheProgram(SIGINT));
+}
+
+TEST_F(ApplicationStartTest, ThePlatformTakesItsLocksInEarnest) {
+  EXPECT_TRUE([NSThread isMultiThreaded]);
+}
+
+TEST_F(ApplicationStartTest, ItsWishesAreDefaultsOnly) {
+  NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
+  NSDictionary* registered = [defaults volatileDomainForName:NSRegistrationDomain];
+  EXPECT_TRUE([[registered objectForKey:@"GSSuppressAppIcon"] boolValue]);
+  EXPECT_TRUE(
+      [[registered objectForKey:@"NSMenuInterfaceStyle"] isEqual:@"NSMacintoshInterfaceStyle"]);
+}
+
+TEST_F(ApplicationStartTest, WithoutADisplayItSaysSoAndFails) {
+  const std::string program = std::filesystem::read_symlink("/proc/self/exe");
+  FILE* output =
+      popen(("env -u DISPLAY '" + program + "' --gtest_filter=nothing 2>&1").c_str(), "r");
+  ASSERT_NE(output, nullptr);
+  char line[256] = "";
+  std::string said;
+  while (std::fgets(line, sizeof line, output) != nullptr) said += line;
+  const int status = pclose(output);
+  EXPECT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 1);
+  EXPECT_TRUE(said.ends_with("This test needs a graphical session: no display could be opened.\n"))
+      << said;
+}
+
+TEST_F(ApplicationStartTest, AnEventInTheQueueEndsAWaitOnce) {
+  NSDate* const farAway = [NSDate distantFuture];
+  while ([NSApp nextEventMatchingMask:NSAnyEventMask
+                            untilDate:nil
+                               inMode:NSDefaultRunLoopMode
+                              dequeue:YES] != nil) {
+  }
+  [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
+                                      location:NSZeroPoint
+                                 modifierFlags:0
+                                     timestamp:0
+                                  windowNumber:0
+                                       context:nil
+                                       subtype:0
+                                         data1:0
+                                         data2:0]
+           atStart:NO];
+  NSDate* late = [NSDate dateWithTimeIntervalSinceNow:20];
+  [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:late];
+  EXPECT_GT([late timeIntervalSinceNow], 0) << "it waited although there was an event";
+  // Once noticed, the event may lie there without keeping the processor busy.
+  int waits = 0;
+  NSDate* soon = [NSDate dateWithTimeIntervalSinceNow:0.1];
+  while ([soon timeIntervalSinceNow] > 0 && waits < 1000) {
+    [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:soon];
+    ++waits;
+  }
+  EXPECT_LT(waits, 50);
+  EXPECT_NE([NSApp nextEventMatchingMask:NSApplicationDefinedMask
+                               untilDate:farAway
+                                  inMode:NSDefaultRunLoopMode
+                                 dequeue:YES],
+            nil);
+}
+
+}  // namespace

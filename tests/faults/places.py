@@ -1,0 +1,135 @@
+"""Where in the product's sources a small fault can be planted, and what it would be."""
+
+import collections
+import random
+import re
+
+# A folder of sources, and the program that tests it.
+PARTS = {
+    "Src/HXUI": "hxui_tests",
+    "installer": "installer_tests",
+    "support": "support_tests",
+}
+
+# Not built here, or started by nobody but the finished program.
+LEFT_OUT = re.compile(r"/Apple/|/main\.mm$|/StartText\.cpp$")
+
+# Lines that cannot change what the program does: room that is reserved ahead, and
+# memory that is given back for good, which the tests of endurance watch.
+WITHOUT_EFFECT = re.compile(
+    r"\.reserve\(|^\s*(\[\w+ release\]|\[super dealloc\]|(XFree|std::free)\(\w+\));$")
+
+# The length of a local buffer: one more is never too few.
+BUFFER = re.compile(r"^\s*(?:char|unsigned char) \w+\[[^]]*\]|std::array<\w+, \w+> ")
+
+# `line` counts from 0; `after` stands in place of `before`, the text of `length` lines.
+Fault = collections.namedtuple("Fault", "path line length kind before after")
+
+# The starting value of what the next line has a call fill in.
+FILLED = re.compile(r"^\s*[\w:]+ (\w+) = \w+;$")
+
+CALL = re.compile(r"^(\s+)(?:\w+(?:->|\.|::))*\w+\(.*\);\s*$|^(\s+)\[.*\];\s*$")
+SWAPPED_OPERATORS = (
+    (" < ", " <= "), (" > ", " >= "), (" <= ", " < "), (" >= ", " > "), (" == ", " != "),
+    (" != ", " == "), (" && ", " || "), (" || ", " && "), (" + ", " - "), (" - ", " + "))
+
+
+def part_of(path):
+    return next(part for part in PARTS if path.startswith(part + "/"))
+
+
+def is_code(line):
+    text = line.strip()
+    return (bool(text) and not text.startswith(("//", "#", "*", "static_assert", "ASSERT"))
+            and not WITHOUT_EFFECT.search(line))
+
+
+def is_outside_texts(line, position):
+    return line[:position].count('"') % 2 == 0 and "//" not in line[:position]
+
+
+def indentation(line):
+    return re.match(r"\s*", line).group(0)
+
+
+def constants(line):
+    """Each number becomes one larger."""
+    if BUFFER.search(line):
+        return
+    for match in re.finditer(r"(?<![\w.\"])(\d+)(\.\d+)?F?(?![\w.\"'])", line):
+        if is_outside_texts(line, match.start()):
+            digits = match.group(1)
+            larger = str(int(digits) + 1) + match.group(0)[len(digits):]
+            yield "constant", line[:match.start()] + larger + line[match.end():]
+
+
+def conditions(line):
+    """A condition becomes its opposite; a lone comparison is left to `operators`."""
+    match = re.match(r"^(\s*(?:\} else )?(?:if|while) )\((.*)\)( \{| return.*;| break;| continue;)\s*$", line)
+    if not match:
+        return
+    condition = match.group(2)
+    lone = re.search(r" [=!]= ", condition) and not re.search(r"&&|\|\|", condition)
+    if not lone and "=" not in re.sub(r"[=!<>]=", "", condition):
+        yield "condition", f"{match.group(1)}(!({condition})){match.group(3)}\n"
+
+
+def operators(line):
+    for old, new in SWAPPED_OPERATORS:
+        position = line.find(old)
+        if position >= 0 and is_outside_texts(line, position) and "template" not in line:
+            yield "operator", line[:position] + new + line[position + len(old):]
+
+
+def truths(line):
+    for old, new in (("true", "false"), ("false", "true"), ("YES", "NO"), ("NO", "YES")):
+        match = re.search(rf"\b{old}\b", line)
+        if match and is_outside_texts(line, match.start()):
+            yield "truth", line[:match.start()] + new + line[match.end():]
+
+
+def calls(line, following):
+    if not CALL.match(line) or line.strip().startswith("return"):
+        return
+    yield 1, "call removed", indentation(line) + ";\n"
+    if (CALL.match(following) and is_code(following) and following != line
+            and indentation(line) == indentation(following)):
+        yield 2, "order swapped", following + line
+
+
+def faults_of(root, path):
+    lines = (root / path).read_text(encoding="utf-8").splitlines(keepends=True) + [""]
+    for number, line in enumerate(lines[:-1]):
+        filled = FILLED.match(line)
+        if not is_code(line) or filled and re.search(rf"&{filled.group(1)}\b", lines[number + 1]):
+            continue
+        offered = [(1, *fault) for find in (constants, conditions, operators, truths) for fault in find(line)]
+        offered += calls(line, lines[number + 1])
+        for length, kind, after in offered:
+            yield Fault(path, number, length, kind, "".join(lines[number:number + length]), after)
+
+
+def all_faults(root):
+    """By file."""
+    found = {}
+    for part in PARTS:
+        for file in sorted((root / part).rglob("*")):
+            path = file.relative_to(root).as_posix()
+            if file.suffix in (".cpp", ".mm") and not LEFT_OUT.search("/" + path):
+                found[path] = list(faults_of(root, path))
+    return found
+
+
+def choose(found, count, seed):
+    """`count` faults, in turn from every file, so that each class gets some; and what is
+    left of each file, to replace those that turn out to be no programs."""
+    generator = random.Random(seed)
+    left = {path: list(faults) for path, faults in found.items()}
+    for faults in left.values():
+        generator.shuffle(faults)
+    chosen = []
+    while len(chosen) < count and any(left.values()):
+        for path in generator.sample(sorted(left), len(left)):
+            if left[path] and len(chosen) < count:
+                chosen.append(left[path].pop())
+    return sorted(chosen), left
