@@ -275,7 +275,7 @@ void InstallerUI::OnTimer(int) {
     return;
   }
   cancelButton->SetLabel("Finish");
-  page = kFinishPage;
+  TurnTo(kFinishPage);
   Redraw();
 }
 
@@ -315,14 +315,14 @@ void InstallerUI::OnCommand(std::uint32_t eventCode) {
 void InstallerUI::GoForward() {
   switch (page) {
     case kWelcomePage:
-      page = kLicencePage;
+      TurnTo(kLicencePage);
       licencePanel->SetVisible(true);
       backButton->SetEnabled(true);
       ShowNavigation("I DO NOT ACCEPT", "I ACCEPT");
       PlaceNavigation(true);
       break;
     case kLicencePage:
-      page = kHostPage;
+      TurnTo(kHostPage);
       hostPanel->SetVisible(true);
       licencePanel->SetVisible(false);
       ShowNavigation("< Back", "Next >");
@@ -342,24 +342,24 @@ void InstallerUI::GoForward() {
 void InstallerUI::GoBack() {
   switch (page) {
     case kLicencePage:
-      page = kWelcomePage;
+      TurnTo(kWelcomePage);
       licencePanel->SetVisible(false);
       backButton->SetEnabled(false);
       // The buttons stay where the agreement's page has put them.
       ShowNavigation("< Back", "Next >");
       break;
     case kHostPage:
-      page = kWelcomePage;
+      TurnTo(kWelcomePage);
       hostPanel->SetVisible(false);
       backButton->SetEnabled(false);
       break;
     case kAssetsPage:
-      page = kHostPage;
+      TurnTo(kHostPage);
       hostPanel->SetVisible(true);
       if (assetsPanel != nullptr) assetsPanel->SetVisible(false);
       break;
     case kSummaryPage:
-      page = kHostPage;
+      TurnTo(kHostPage);
       hostPanel->SetVisible(true);
       summaryPanel->SetVisible(false);
       break;
@@ -396,13 +396,13 @@ void InstallerUI::LeaveHostPage() {
     return;
   }
   hostPanel->SetVisible(false);
-  page = kSummaryPage;
+  TurnTo(kSummaryPage);
   summaryText->SetText(InstallerTexts::Summary(*this));
   summaryPanel->SetVisible(true);
 }
 
 void InstallerUI::StartInstallation() {
-  page = kProgressPage;
+  TurnTo(kProgressPage);
   summaryPanel->SetVisible(false);
   backButton->SetEnabled(false);
   nextButton->SetEnabled(false);

@@ -79,7 +79,7 @@ class InstallerUI : public HXWindow, public InstallerState {
   InstallationWorld& GetWorld() { return *world; }
 
  protected:
-  /// Draws this page from now on, without what leads to it: the panels and buttons stay.
+  /// Draws this page from now on; panels and buttons are for the caller to change.
   void TurnTo(Page newPage) { page = newPage; }
 
  private:
