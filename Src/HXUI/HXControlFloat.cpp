@@ -128,7 +128,7 @@ void HXControlFloat::Draw() {
   // The dots tell that the number can be dragged.
   const HXSize number = dc.MeasureText(format.NumberText(CurrentValue()), {0, 0}, 0);
   dc.SetFillColor(textColor);
-  for (std::int32_t x = 0; x < number.width; x += 2) dc.DrawPixel({x, number.height});
+  dc.DrawDots({0, number.height}, number.width);
 }
 
 // Dragging

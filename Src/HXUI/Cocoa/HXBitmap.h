@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "Src/HXUI/Cocoa/HXBitmapPixels.h"
 #include "Src/HXUI/Cocoa/NativeTypes.h"
@@ -54,7 +55,10 @@ class HXBitmap {
 
  private:
   void Replace(NSImage* newImage);
+  bool HasChanged() const;
 
   NSImage* image = nullptr;
   std::unique_ptr<unsigned char[]> pixels;
+  /// The image's bytes as it was made to show them last.
+  mutable std::vector<unsigned char> shown;
 };

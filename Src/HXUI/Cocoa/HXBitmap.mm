@@ -62,6 +62,7 @@ HXBitmap::~HXBitmap() { Replace(nil); }
 void HXBitmap::Replace(NSImage* newImage) {
   [image release];
   image = newImage;
+  shown.clear();
 }
 
 void HXBitmap::LoadFromBytes(const unsigned char* bytes, std::uint32_t length) {
@@ -96,8 +97,17 @@ HXSize HXBitmap::GetPixelSize() const {
 
 NSImage* HXBitmap::GetImage() const {
   // Whoever locked the pixels may have written some since.
-  if (pixels) RefreshImage(image);
+  if (pixels && HasChanged()) RefreshImage(image);
   return image;
+}
+
+bool HXBitmap::HasChanged() const {
+  NSBitmapImageRep* rep = FirstBitmap(image);
+  const auto size = static_cast<std::size_t>([rep bytesPerPlane] * [rep numberOfPlanes]);
+  const unsigned char* bytes = [rep bitmapData];
+  if (shown.size() == size && std::equal(shown.begin(), shown.end(), bytes)) return false;
+  shown.assign(bytes, bytes + size);
+  return true;
 }
 
 std::unique_ptr<HXBitmapPixels> HXBitmap::LockPixels() {

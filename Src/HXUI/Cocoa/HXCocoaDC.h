@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "Src/HXUI/Cocoa/NativeTypes.h"
@@ -49,6 +50,9 @@ class HXCocoaDC {
   /// A rectangle of one pixel's width or height has no outline.
   void DrawRect(HXRect rect);
   void DrawPixel(HXPoint point);
+  /// Every other one of `length` pixels to the right of `first`, beginning with
+  /// that, as by `DrawPixel`.
+  void DrawDots(HXPoint first, std::int32_t length);
   /// From `first` at the top to `second` at the bottom when `vertical`, else
   /// from the left to the right.
   void FillGradient(HXRect rect, HXColor first, HXColor second, bool vertical);
@@ -88,8 +92,8 @@ class HXCocoaDC {
   HXObject* widget;
   // Null where nothing is to be drawn.
   NSGraphicsContext* context = nullptr;
-  NSColor* textColor = nullptr;
   NSFont* font = nullptr;
+  std::optional<HXColor> textColor;
   bool underline = false;
   // Null while transparent.
   NSColor* strokeColor = nullptr;

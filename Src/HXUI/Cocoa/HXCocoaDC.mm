@@ -8,12 +8,10 @@
 #include "Src/HXUI/Cocoa/GraphicsState.h"
 #include "Src/HXUI/Cocoa/HXBitmap.h"
 #include "Src/HXUI/Cocoa/TextExtents.h"
+#include "Src/HXUI/Cocoa/TextLayouts.h"
 
 namespace {
 
-/// Lay out from the line-fragment origin, without screen-font substitution, and truncate the last
-/// visible line. Not every AppKit has names for all of these bits.
-constexpr auto kDrawOptions = static_cast<NSStringDrawingOptions>(37);
 /// Text stands this far to the right of where it is asked for, and this far above.
 constexpr CGFloat kTextShift = 1;
 constexpr CGFloat kTextLift = 2;
@@ -23,50 +21,23 @@ constexpr CGFloat kRightBoxHeight = 100;
 /// Stands for "no bound" when measuring.
 constexpr CGFloat kUnbounded = 1.0e6;
 
-/// As much of the beginning of `text` as fits into `box` with an ellipsis after it. Not every
-/// AppKit heeds the option that asks for this. nil when not even one line fits.
-NSString* Truncated(NSString* text, NSSize box, NSDictionary* attributes) {
-  const NSSize column = NSMakeSize(box.width, kUnbounded);
-  NSString* fitting = nil;
-  NSUInteger shortest = 0;
-  NSUInteger longest = [text length];
-  while (shortest < longest) {
-    const NSUInteger middle = (shortest + longest) / 2;
-    const NSUInteger end = [text rangeOfComposedCharacterSequenceAtIndex:middle].location;
-    NSString* candidate = [[text substringToIndex:end] stringByAppendingString:@"\u2026"];
-    if (TextExtents::MeasureOnce(candidate, column, attributes).height <= box.height) {
-      fitting = candidate;
-      shortest = middle + 1;
-    } else {
-      longest = middle;
-    }
+void DrawInBox(const std::string& text, const TextLook& look, NSRect box) {
+  const NSSize column = NSMakeSize(box.size.width, kUnbounded);
+  if (TextExtents::Measure(text, look, column).height <= box.size.height) {
+    TextLayouts::Draw(text, look, box);
+    return;
   }
-  return fitting;
-}
-
-/// `height` is what all of the text takes in the width of the box.
-void DrawInBox(NSString* text, CGFloat height, NSRect box, NSDictionary* attributes) {
-  NSString* fitting = height <= box.size.height ? text : Truncated(text, box.size, attributes);
-  if (fitting != nil) {
-    [fitting drawWithRect:box options:kDrawOptions attributes:attributes];
+  const std::string fitting = TextExtents::Shortened(text, look, box.size);
+  if (!fitting.empty()) {
+    TextLayouts::Draw(fitting, look, box);
     return;
   }
   // In a box that is too low for its first line some platforms put the text anywhere.
   [NSGraphicsContext saveGraphicsState];
   NSRectClip(box);
   box.size.height = kUnbounded;
-  [text drawWithRect:box options:kDrawOptions attributes:attributes];
+  TextLayouts::Draw(text, look, box);
   [NSGraphicsContext restoreGraphicsState];
-}
-
-/// `source` counts from the image's own origin; all of it when zero.
-void DrawImage(NSImage* image, NSRect target, NSRect source) {
-  [image drawInRect:target
-            fromRect:source
-           operation:NSCompositeSourceOver
-            fraction:1.0
-      respectFlipped:DrawsFromTop(image) ? NO : YES
-               hints:nil];
 }
 
 /// A negative extent would turn the rectangle over instead of emptying it.
@@ -88,7 +59,6 @@ HXCocoaDC::HXCocoaDC(HXObject* drawnWidget, bool) : HXCocoaDC(drawnWidget) {}
 HXCocoaDC::~HXCocoaDC() {
   [strokeColor release];
   [fillColor release];
-  [textColor release];
   [font release];
 }
 
@@ -103,10 +73,7 @@ void HXCocoaDC::SetFillColor(HXColor color) {
   fillColor = color.alpha == 0 ? nil : [ToDeviceColor(color) retain];
 }
 
-void HXCocoaDC::SetTextColor(HXColor color) {
-  [textColor release];
-  textColor = [ToCalibratedColor(color) retain];
-}
+void HXCocoaDC::SetTextColor(HXColor color) { textColor = color; }
 
 void HXCocoaDC::SetFont(const std::string& family, std::uint32_t style, float size) {
   underline = (style & kUnderline) != 0;
@@ -130,12 +97,23 @@ void HXCocoaDC::Stroke(NSBezierPath* path) {
 void HXCocoaDC::DrawRect(HXRect rect) {
   Fill(rect);
   // The path below would have no area and yet be drawn, by some platforms only.
-  if (rect.width <= 1 || rect.height <= 1) return;
+  if (strokeColor == nil || rect.width <= 1 || rect.height <= 1) return;
   // A line of one pixel lies on the outermost pixels when it runs through their centres.
   Stroke([NSBezierPath bezierPathWithRect:NSInsetRect(ToNative(rect), 0.5, 0.5)]);
 }
 
 void HXCocoaDC::DrawPixel(HXPoint point) { Fill({point.x, point.y, 1, 1}); }
+
+void HXCocoaDC::DrawDots(HXPoint first, std::int32_t length) {
+  if (context == nil || fillColor == nil || length <= 0) return;
+  // All at once: drawn one by one they take as long as all the rest of a numeric field.
+  NSBezierPath* path = [NSBezierPath bezierPath];
+  for (std::int32_t x = 0; x < length; x += 2) {
+    [path appendBezierPathWithRect:ToNative(HXRect{first.x + x, first.y, 1, 1})];
+  }
+  [fillColor set];
+  [path fill];
+}
 
 void HXCocoaDC::FillGradient(HXRect rect, HXColor first, HXColor second, bool vertical) {
   if (context == nil || IsEmpty(rect)) return;
@@ -196,15 +174,10 @@ void HXCocoaDC::DrawBitmapPart(const HXBitmap& bitmap, HXPoint point, HXRect sou
 }
 
 void HXCocoaDC::DrawText(const std::string& text, HXRect rect, std::uint32_t flags) {
-  NSString* native = ToNative(text);
-  if (context == nil || native == nil) return;
-  [NSGraphicsContext saveGraphicsState];
+  if (context == nil || text.empty() || ToNative(text) == nil) return;
+  const BOOL wasSmooth = [context shouldAntialias];
   [context setShouldAntialias:YES];
-  NSMutableDictionary* attributes = TextExtents::Attributes(flags, font);
-  if (textColor != nil) [attributes setObject:textColor forKey:NSForegroundColorAttributeName];
-  if (underline) {
-    [attributes setObject:[NSNumber numberWithInt:1] forKey:NSUnderlineStyleAttributeName];
-  }
+  const TextLook look{font, flags, textColor, underline};
 
   NSRect box = ToNative(rect);
   if (rect.width != 0 || rect.height != 0) {
@@ -212,20 +185,16 @@ void HXCocoaDC::DrawText(const std::string& text, HXRect rect, std::uint32_t fla
     box.origin.y -= kTextLift;
     box.size.height += kTextLift;
     if ((flags & kCentreVertically) != 0) {
-      box.origin.y +=
-          (rect.height - TextExtents::Measure(text, font, flags, NSZeroSize).height) / 2;
+      box.origin.y += (rect.height - TextExtents::Measure(text, look, NSZeroSize).height) / 2;
     }
   } else if ((flags & kRight) != 0) {
     box = NSMakeRect(rect.x - kRightBoxWidth, rect.y - kTextLift, kRightBoxWidth, kRightBoxHeight);
   } else {
-    [native drawAtPoint:NSMakePoint(rect.x + kTextShift, rect.y - kTextLift)
-         withAttributes:attributes];
+    box.origin = NSMakePoint(rect.x + kTextShift, rect.y - kTextLift);
+    TextLayouts::Draw(text, look, box);
   }
-  if (!NSIsEmptyRect(box)) {
-    const NSSize column = NSMakeSize(box.size.width, kUnbounded);
-    DrawInBox(native, TextExtents::Measure(text, font, flags, column).height, box, attributes);
-  }
-  [NSGraphicsContext restoreGraphicsState];
+  if (!NSIsEmptyRect(box)) DrawInBox(text, look, box);
+  [context setShouldAntialias:wasSmooth];
 }
 
 HXSize HXCocoaDC::MeasureText(const std::string& text, HXSize bounds, std::uint32_t) const {
@@ -234,10 +203,9 @@ HXSize HXCocoaDC::MeasureText(const std::string& text, HXSize bounds, std::uint3
                                    bounds.height > 0 ? bounds.height : kUnbounded);
   // Always to the left: where the lines stand does not change what they take, but the platform
   // counts the empty line after a last line break from where it would begin.
-  if (text.empty()) {
-    return {1, FromNative(TextExtents::Measure(" ", font, 0, limits)).height};
-  }
-  const HXSize measured = FromNative(TextExtents::Measure(text, font, 0, limits));
+  const TextLook look{.font = font};
+  if (text.empty()) return {1, FromNative(TextExtents::Measure(" ", look, limits)).height};
+  const HXSize measured = FromNative(TextExtents::Measure(text, look, limits));
   return {measured.width + 1, measured.height};
 }
 

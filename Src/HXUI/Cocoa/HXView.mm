@@ -174,13 +174,14 @@ NSArray* DroppedPaths(id<NSDraggingInfo> dragging) {
 }
 
 - (void)handleMouseMoved:(NSEvent*)event {
+  // Once here rather than into each child: nobody scales or turns their bounds.
+  const NSPoint point = [self convertPoint:[event locationInWindow] fromView:nil];
   if (win != nullptr) {
     for (HXObject* child : win->GetChildren()) {
       NSView* view = child->GetNativeView();
+      if (view == nil || !NSMouseInRect(point, [view frame], YES)) continue;
       if (![view isKindOfClass:[HXView class]] || [view superview] != self || [view isHidden])
         continue;
-      const NSPoint point = [view convertPoint:[event locationInWindow] fromView:nil];
-      if (!NSMouseInRect(point, [view bounds], [view isFlipped])) continue;
       [static_cast<HXView*>(view) handleMouseMoved:event];
       return;
     }

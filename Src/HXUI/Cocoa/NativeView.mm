@@ -123,8 +123,7 @@ bool NativeView::AreCursorRectsEnabled(NSView* view) {
 }
 
 HXPoint NativeView::GetMousePosition(NSView* view, bool screen) {
-  const NSPoint onScreen = [NSEvent mouseLocation];
-  if (screen) return FromNative(onScreen);
+  if (screen) return FromNative([NSEvent mouseLocation]);
   NSWindow* window = [view window];
   if (window == nil) return {};
   return FromNative([view convertPoint:[window mouseLocationOutsideOfEventStream] fromView:nil]);

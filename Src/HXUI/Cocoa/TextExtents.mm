@@ -1,60 +1,70 @@
 #include "Src/HXUI/Cocoa/TextExtents.h"
 
 #include <map>
-#include <tuple>
+#include <optional>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
-#include "Src/HXUI/Cocoa/HXCocoaDC.h"
 
 namespace {
 
 /// Lay out from the line-fragment origin, without screen-font substitution.
 constexpr auto kMeasureOptions = static_cast<NSStringDrawingOptions>(5);
+/// Stands for "no bound".
+constexpr CGFloat kUnbounded = 1.0e6;
 /// More than any window shows. All go at once, so that what is drawn now is soon there again.
 constexpr std::size_t kMostRemembered = 500;
 
-/// One for each alignment, for good: styles are made again and again otherwise.
-NSParagraphStyle* WrappingStyle(NSTextAlignment alignment) {
-  static std::map<NSTextAlignment, NSParagraphStyle*> styles;
-  NSParagraphStyle*& style = styles[alignment];
-  if (style == nil) {
-    NSMutableParagraphStyle* made = [[NSParagraphStyle defaultParagraphStyle] mutableCopy];
-    [made setLineBreakMode:NSLineBreakByWordWrapping];
-    [made setAlignment:alignment];
-    style = made;
-  }
-  return style;
+/// Of one text within one size.
+struct Findings {
+  std::optional<NSSize> extent;
+  std::optional<std::string> shortened;
+};
+
+/// Until the next call.
+Findings& FindingsFor(const std::string& text, const TextLook& look, NSSize size) {
+  static std::map<TextLook::Key, Findings> remembered;
+  const TextLook shape{look.font, look.flags, {}, false};
+  const TextLook::Key key = shape.KeyOf(text, size);
+  const auto found = remembered.find(key);
+  if (found != remembered.end()) return found->second;
+  if (remembered.size() >= kMostRemembered) remembered.clear();
+  return remembered[key];
 }
 
-NSTextAlignment AlignmentOf(std::uint32_t flags) {
-  if ((flags & HXCocoaDC::kRight) != 0) return NSRightTextAlignment;
-  return (flags & HXCocoaDC::kCentre) != 0 ? NSCenterTextAlignment : NSLeftTextAlignment;
+std::string Shorten(NSString* text, NSSize box, NSDictionary* attributes) {
+  const NSSize column = NSMakeSize(box.width, kUnbounded);
+  NSString* fitting = nil;
+  NSUInteger shortest = 0;
+  NSUInteger longest = [text length];
+  while (shortest < longest) {
+    const NSUInteger middle = (shortest + longest) / 2;
+    const NSUInteger end = [text rangeOfComposedCharacterSequenceAtIndex:middle].location;
+    NSString* candidate = [[text substringToIndex:end] stringByAppendingString:@"\u2026"];
+    if (TextExtents::MeasureOnce(candidate, column, attributes).height <= box.height) {
+      fitting = candidate;
+      shortest = middle + 1;
+    } else {
+      longest = middle;
+    }
+  }
+  return FromNative(fitting);
 }
 
 }  // namespace
 
-NSMutableDictionary* TextExtents::Attributes(std::uint32_t flags, NSFont* font) {
-  NSMutableDictionary* attributes = [NSMutableDictionary dictionary];
-  [attributes setObject:WrappingStyle(AlignmentOf(flags)) forKey:NSParagraphStyleAttributeName];
-  if (font != nil) [attributes setObject:font forKey:NSFontAttributeName];
-  return attributes;
-}
-
-NSSize TextExtents::Measure(const std::string& text, NSFont* font, std::uint32_t flags,
-                            NSSize bounds) {
-  using Key = std::tuple<std::string, NSFont*, std::uint32_t, CGFloat, CGFloat>;
-  static std::map<Key, NSSize> remembered;
-  const Key key(text, font, flags & (HXCocoaDC::kCentre | HXCocoaDC::kRight), bounds.width,
-                bounds.height);
-  const auto found = remembered.find(key);
-  if (found != remembered.end()) return found->second;
-  const NSSize size = MeasureOnce(ToNative(text), bounds, Attributes(flags, font));
-  if (remembered.size() >= kMostRemembered) remembered.clear();
-  remembered.emplace(key, size);
-  return size;
+NSSize TextExtents::Measure(const std::string& text, const TextLook& look, NSSize bounds) {
+  std::optional<NSSize>& extent = FindingsFor(text, look, bounds).extent;
+  if (!extent) extent = MeasureOnce(ToNative(text), bounds, look.Attributes());
+  return *extent;
 }
 
 NSSize TextExtents::MeasureOnce(NSString* text, NSSize bounds, NSDictionary* attributes) {
   if (NSEqualSizes(bounds, NSZeroSize)) return [text sizeWithAttributes:attributes];
   return [text boundingRectWithSize:bounds options:kMeasureOptions attributes:attributes].size;
+}
+
+std::string TextExtents::Shortened(const std::string& text, const TextLook& look, NSSize box) {
+  std::optional<std::string>& shortened = FindingsFor(text, look, box).shortened;
+  if (!shortened) shortened = Shorten(ToNative(text), box, look.Attributes());
+  return *shortened;
 }

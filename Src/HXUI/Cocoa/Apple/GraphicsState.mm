@@ -1,7 +1,5 @@
 #include "Src/HXUI/Cocoa/GraphicsState.h"
 
-#import <AppKit/AppKit.h>
-
 void PrepareGraphicsContext(NSGraphicsContext* context) {
   CGContextRef port = static_cast<CGContextRef>([context graphicsPort]);
   // Views are flipped, glyphs are not.
@@ -12,6 +10,15 @@ void PrepareGraphicsContext(NSGraphicsContext* context) {
 }
 
 bool DrawsFromTop(NSImage* image) { return [image isFlipped]; }
+
+void DrawImage(NSImage* image, NSRect target, NSRect source) {
+  [image drawInRect:target
+            fromRect:source
+           operation:NSCompositeSourceOver
+            fraction:1.0
+      respectFlipped:DrawsFromTop(image) ? NO : YES
+               hints:nil];
+}
 
 void CopyPixels(NSImage* image, NSBitmapImageRep* target) {
   NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];

@@ -1,7 +1,5 @@
 #include "Src/HXUI/Cocoa/GraphicsState.h"
 
-#import <AppKit/AppKit.h>
-
 #include <cmath>
 
 namespace {
@@ -60,6 +58,15 @@ void CopyPixel(NSColor* color, unsigned char* target) {
   target[3] = ToByte(alpha);
 }
 
+/// What the platform has made of the image's only representation when it drew that first; nil when
+/// there is something to choose.
+NSCachedImageRep* OnlyCache(NSImage* image) {
+  NSArray* reps = [image representations];
+  NSImageRep* last = [reps lastObject];
+  if ([reps count] != 2 || ![last isKindOfClass:[NSCachedImageRep class]]) return nil;
+  return NSEqualSizes([last size], [image size]) ? static_cast<NSCachedImageRep*>(last) : nil;
+}
+
 }  // namespace
 
 // Glyphs stand upright in flipped views and fonts have no smoothing of their own.
@@ -67,6 +74,19 @@ void PrepareGraphicsContext(NSGraphicsContext*) {}
 
 // The mark changes nothing here.
 bool DrawsFromTop(NSImage*) { return false; }
+
+// Before every drawing the platform goes through the image's representations for the best one,
+// which takes longer than the drawing.
+void DrawImage(NSImage* image, NSRect target, NSRect source) {
+  NSCachedImageRep* cache = OnlyCache(image);
+  id drawn = cache != nil ? static_cast<id>(cache) : static_cast<id>(image);
+  [drawn drawInRect:target
+            fromRect:source
+           operation:NSCompositeSourceOver
+            fraction:1.0
+      respectFlipped:YES
+               hints:nil];
+}
 
 // A graphics context on a bitmap can be made here, but draws nothing and crashes when flushed.
 void CopyPixels(NSImage* image, NSBitmapImageRep* target) {

@@ -122,6 +122,23 @@ TEST_F(HXCocoaDCTest, PixelIsOnePixel) {
   EXPECT_EQ(pixels->Ink(AllOf(*pixels), kBlack), 1);
 }
 
+TEST_F(HXCocoaDCTest, DotsAreEveryOtherPixel) {
+  for (const HXColor color : {kRed, HXColor{255, 255, 255, 100}}) {
+    for (const std::int32_t length : {-1, 0, 1, 2, 9}) {
+      const auto pixels = Paint({16, 8}, [=](HXCocoaDC& dc) {
+        dc.SetStroke(kWhite, 3);
+        dc.SetFillColor(color);
+        dc.DrawDots({3, 5}, length);
+      });
+      const auto expected = Paint({16, 8}, [=](HXCocoaDC& dc) {
+        dc.SetFillColor(color);
+        for (std::int32_t x = 0; x < length; x += 2) dc.DrawPixel({3 + x, 5});
+      });
+      EXPECT_EQ(CountDifferences(*pixels, *expected), 0) << length;
+    }
+  }
+}
+
 // Gradients
 
 TEST_F(HXCocoaDCTest, VerticalGradientGoesFromTopToBottomWithinItsRect) {

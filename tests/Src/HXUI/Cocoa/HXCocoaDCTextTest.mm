@@ -1,3 +1,8 @@
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "Src/HXUI/Cocoa/Conversions.h"
 #include "Src/HXUI/Cocoa/FontLookup.h"
 #include "Src/HXUI/Cocoa/HXCocoaDC.h"
@@ -214,6 +219,41 @@ TEST_F(HXCocoaDCTextTest, TextWithoutAFontOrColourIsStillDrawn) {
     dc.DrawText("Hxg", {5, 5, 0, 0}, 0);
   });
   EXPECT_GT(pixels->Count(AllOf(*pixels), [](HXColor color) { return color.red < 128; }), 15);
+}
+
+/// The same place, text and size, drawn again and again in all looks: none may be taken for
+/// another.
+TEST_F(HXCocoaDCTextTest, LooksAreToldApartWhenDrawnAgain) {
+  std::vector<std::unique_ptr<DrawnPixels>> first;
+  for (int pass = 0; pass < 2; ++pass) {
+    std::size_t index = 0;
+    for (const HXColor color : {kWhite, kRed}) {
+      for (const std::uint32_t style : {0U, 1U, 4U}) {
+        for (const std::uint32_t flags : {0U, 1U, 2U}) {
+          auto pixels = Paint({120, 40}, [=](HXCocoaDC& dc) {
+            dc.SetFont("Verdana", style, kFontSize);
+            dc.SetTextColor(color);
+            dc.DrawText("Hxg Öl", {5, 8, 110, 20}, flags);
+          });
+          if (pass == 0) {
+            for (const auto& other : first) EXPECT_GT(CountDifferences(*pixels, *other), 0);
+            first.push_back(std::move(pixels));
+          } else {
+            EXPECT_EQ(CountDifferences(*pixels, *first.at(index++)), 0);
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST_F(HXCocoaDCTextTest, ManyTextsAreDrawnRightly) {
+  const auto early = PaintText({120, 40}, "early", {5, 5, 0, 0}, 0);
+  Paint({120, 40}, [](HXCocoaDC& dc) {
+    SetUpText(dc);
+    for (int i = 0; i < 1000; ++i) dc.DrawText(std::to_string(i * i), {5, 5, 0, 0}, 0);
+  });
+  EXPECT_EQ(CountDifferences(*PaintText({120, 40}, "early", {5, 5, 0, 0}, 0), *early), 0);
 }
 
 TEST_F(HXCocoaDCTextTest, BoldTextHasMoreInkAndUnderlineAddsALine) {

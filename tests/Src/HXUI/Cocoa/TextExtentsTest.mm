@@ -15,8 +15,8 @@ class TextExtentsTest : public ::testing::Test {
   TextExtentsTest() : pool([[NSAutoreleasePool alloc] init]) {}
   ~TextExtentsTest() override { [pool drain]; }
 
-  static NSSize Fresh(const std::string& text, NSFont* font, std::uint32_t flags, NSSize bounds) {
-    return TextExtents::MeasureOnce(ToNative(text), bounds, TextExtents::Attributes(flags, font));
+  static NSSize Fresh(const std::string& text, const TextLook& look, NSSize bounds) {
+    return TextExtents::MeasureOnce(ToNative(text), bounds, look.Attributes());
   }
 
   static void ExpectEqual(NSSize measured, NSSize expected) {
@@ -29,11 +29,11 @@ class TextExtentsTest : public ::testing::Test {
 };
 
 TEST_F(TextExtentsTest, ARememberedMeasurementIsThatOfThePlatform) {
-  NSFont* font = FontLookup::Find("Verdana", false, false, 11);
+  const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
   const NSSize bounds = NSMakeSize(120, 1000);
-  const NSSize expected = Fresh(kText, font, 0, bounds);
-  ExpectEqual(TextExtents::Measure(kText, font, 0, bounds), expected);
-  ExpectEqual(TextExtents::Measure(kText, font, 0, bounds), expected);
+  const NSSize expected = Fresh(kText, look, bounds);
+  ExpectEqual(TextExtents::Measure(kText, look, bounds), expected);
+  ExpectEqual(TextExtents::Measure(kText, look, bounds), expected);
 }
 
 TEST_F(TextExtentsTest, TextsFontsAndWidthsAreToldApart) {
@@ -45,7 +45,8 @@ TEST_F(TextExtentsTest, TextsFontsAndWidthsAreToldApart) {
     for (NSFont* font : {small, large}) {
       for (const NSSize bounds : {narrow, wide, NSZeroSize}) {
         for (const std::string& text : {kText, std::string("Back")}) {
-          ExpectEqual(TextExtents::Measure(text, font, 0, bounds), Fresh(text, font, 0, bounds));
+          const TextLook look{.font = font};
+          ExpectEqual(TextExtents::Measure(text, look, bounds), Fresh(text, look, bounds));
         }
       }
     }
@@ -57,19 +58,40 @@ TEST_F(TextExtentsTest, AlignmentsAreToldApart) {
   const std::string text = "Next\n";
   const NSSize bounds = NSMakeSize(120, 1000);
   for (const std::uint32_t flags : {0U, std::uint32_t{HXCocoaDC::kRight}}) {
-    ExpectEqual(TextExtents::Measure(text, font, flags, bounds), Fresh(text, font, flags, bounds));
+    const TextLook look{.font = font, .flags = flags};
+    ExpectEqual(TextExtents::Measure(text, look, bounds), Fresh(text, look, bounds));
   }
 }
 
 TEST_F(TextExtentsTest, ManyTextsAreMeasuredRightly) {
-  NSFont* font = FontLookup::Find("Verdana", false, false, 11);
+  const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
   for (int pass = 0; pass < 2; ++pass) {
     for (int i = 0; i < 600; ++i) {
       const std::string text = std::to_string(i * i);
-      ExpectEqual(TextExtents::Measure(text, font, 0, NSZeroSize),
-                  Fresh(text, font, 0, NSZeroSize));
+      ExpectEqual(TextExtents::Measure(text, look, NSZeroSize), Fresh(text, look, NSZeroSize));
     }
   }
+}
+
+TEST_F(TextExtentsTest, ShortenedTextIsTheLongestBeginningThatFits) {
+  const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
+  const NSSize box = NSMakeSize(120, 31);
+  const NSSize column = NSMakeSize(120, 1000);
+  // Twice, as the second answer is the remembered one.
+  for (int pass = 0; pass < 2; ++pass) {
+    const std::string shortened = TextExtents::Shortened(kText, look, box);
+    const std::string beginning = shortened.substr(0, shortened.size() - std::string("…").size());
+    ASSERT_EQ(shortened, beginning + "…");
+    EXPECT_EQ(kText.substr(0, beginning.size()), beginning);
+    EXPECT_LE(Fresh(shortened, look, column).height, box.height);
+    const std::string longer = kText.substr(0, beginning.size() + 1) + "…";
+    EXPECT_GT(Fresh(longer, look, column).height, box.height);
+  }
+}
+
+TEST_F(TextExtentsTest, ABoxTooLowForOneLineLeavesNothing) {
+  const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
+  EXPECT_EQ(TextExtents::Shortened(kText, look, NSMakeSize(120, 4)), "");
 }
 
 }  // namespace
