@@ -17,7 +17,8 @@ LEFT_OUT = re.compile(r"/Apple/|/main\.mm$|/StartText\.cpp$")
 # Lines that cannot change what the program does: room that is reserved ahead, and
 # memory that is given back for good, which the tests of endurance watch.
 WITHOUT_EFFECT = re.compile(
-    r"\.reserve\(|^\s*(\[\w+ release\]|\[super dealloc\]|(XFree|std::free)\(\w+\));$")
+    r"\.reserve\(|^\s*(\[\w+ release\]|\[super dealloc\]|"
+    r"(XFree|std::free|va_end|posix_spawn\w*_destroy)\(&?\w+\));$")
 
 # The length of a local buffer: one more is never too few.
 BUFFER = re.compile(r"^\s*(?:char|unsigned char) \w+\[[^]]*\]|std::array<\w+, \w+> ")
@@ -25,7 +26,7 @@ BUFFER = re.compile(r"^\s*(?:char|unsigned char) \w+\[[^]]*\]|std::array<\w+, \w
 # `line` counts from 0; `after` stands in place of `before`, the text of `length` lines.
 Fault = collections.namedtuple("Fault", "path line length kind before after")
 
-# The starting value of what the next line has a call fill in.
+# The starting value of what the next statement has a call fill in.
 FILLED = re.compile(r"^\s*[\w:]+ (\w+) = \w+;$")
 
 CALL = re.compile(r"^(\s+)(?:\w+(?:->|\.|::))*\w+\(.*\);\s*$|^(\s+)\[.*\];\s*$")
@@ -54,7 +55,7 @@ def indentation(line):
 
 def constants(line):
     """Each number becomes one larger."""
-    if BUFFER.search(line):
+    if BUFFER.search(line) or "HXAssertFailed(" in line:
         return
     for match in re.finditer(r"(?<![\w.\"])(\d+)(\.\d+)?F?(?![\w.\"'])", line):
         if is_outside_texts(line, match.start()):
@@ -101,7 +102,8 @@ def faults_of(root, path):
     lines = (root / path).read_text(encoding="utf-8").splitlines(keepends=True) + [""]
     for number, line in enumerate(lines[:-1]):
         filled = FILLED.match(line)
-        if not is_code(line) or filled and re.search(rf"&{filled.group(1)}\b", lines[number + 1]):
+        statement = "".join(lines[number + 1:]).partition(";")[0]
+        if not is_code(line) or filled and re.search(rf"&{filled.group(1)}\b", statement):
             continue
         offered = [(1, *fault) for find in (constants, conditions, operators, truths) for fault in find(line)]
         offered += calls(line, lines[number + 1])

@@ -28,6 +28,8 @@ def own_suites(names, path):
 class Reach:
     """The suites of each program with the lines that they get to."""
 
+    STARTED = "OstrelInstallerHelper"
+    SUITES_OF_STARTED = "tests/installer/GNUstep"
     # A machine that is busy with something else may spoil one.
     ATTEMPTS = 3
 
@@ -100,9 +102,13 @@ class Reach:
         suites = self.suites[part_of(fault.path)]
         own = own_suites([suite.name for suite in suites], fault.path)
         lines = range(fault.line, fault.line + fault.length)
+        started = self.programs.object_in(self.STARTED, fault.path) is not None
         counted = any(number in suite.lines.get(fault.path, ()) for suite in suites for number in lines)
 
         def gets_there(suite):
+            # What runs as a process of its own, with an environment of its own, counts nothing.
+            if started and (self.programs.root / self.SUITES_OF_STARTED / f"{suite.name}.cpp").exists():
+                return True
             reached = suite.lines.get(fault.path, set())
             # A line outside of functions is in nobody's count.
             return any(number in reached for number in lines) if counted else bool(reached)

@@ -18,10 +18,13 @@ class PlatformInstallationWorldTest : public testing::Test {
   PlatformInstallationWorld world{[this] { ++redraws; }};
 };
 
-/// A child that ends at once.
+/// A child that ends after a moment.
 pid_t StartChild() {
   const pid_t child = fork();
-  if (child == 0) _exit(3);
+  if (child == 0) {
+    usleep(20'000);
+    _exit(3);
+  }
   return child;
 }
 

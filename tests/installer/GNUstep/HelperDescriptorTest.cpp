@@ -31,6 +31,14 @@ TEST(HelperDescriptorTest, ClosesWhatItOwns) {
   EXPECT_FALSE(IsOpen(number));
 }
 
+TEST(HelperDescriptorTest, OwnsTheFirstDescriptorToo) {
+  const pid_t child = HelperTestProcess::Fork([] {
+    HelperDescriptor(0).Close();
+    return IsOpen(0) ? 1 : 0;
+  });
+  EXPECT_EQ(HelperTestProcess::Wait(child), 0);
+}
+
 TEST(HelperDescriptorTest, MovesItsOwnership) {
   const int first = OpenNull();
   const int second = OpenNull();

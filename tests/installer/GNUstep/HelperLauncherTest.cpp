@@ -14,6 +14,7 @@
 #include "installer/GNUstep/HelperLauncher.h"
 #include "tests/installer/GNUstep/HelperTestFolder.h"
 #include "tests/installer/GNUstep/HelperTestProcess.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace {
 
@@ -186,6 +187,10 @@ TEST_F(HelperLauncherTest, PassesNothingOfTheEnvironmentButAPath) {
 
 TEST_F(HelperLauncherTest, AsksNobodyWhenTheProcessIsRootAlready) {
   EXPECT_EQ(HelperLauncher::ForThisProcess().Asks(), ::geteuid() != 0);
+}
+
+TEST_F(HelperLauncherTest, AsksForAnOrdinaryUser) {
+  EXPECT_TRUE(AskAsOrdinaryUser([] { return HelperLauncher::ForThisProcess().Asks(); }));
 }
 
 }  // namespace
