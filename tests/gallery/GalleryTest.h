@@ -100,6 +100,8 @@ class GalleryTest : public testing::Test {
   Area Content(const char* title = kTitle) const;
 
   static const std::string& DisplayName() { return server->name; }
+  /// What a program needs on this display and machine; its command is missing.
+  static ChildProcess::Setup SetupFor(const Machine& machine);
 
   Machine machine;
   Desktop desktop;
