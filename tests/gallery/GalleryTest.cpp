@@ -20,8 +20,6 @@ constexpr int kValuesPitch = 14;
 constexpr Area kLog{524, 468, 359, 160};
 constexpr int kLogPitch = 15;
 constexpr Area kClearButton{832, 446, 50, 18};
-/// The label of the chosen view's button.
-constexpr Color kAccent{116, 200, 243};
 
 using Lines = std::vector<std::string>;
 
