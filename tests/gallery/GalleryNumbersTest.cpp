@@ -121,6 +121,27 @@ TEST_F(GalleryNumbersTest, TheFieldGrowsWithWhatIsTyped) {
   keyboard.Type("Return");
 }
 
+TEST_F(GalleryNumbersTest, NothingIsCutOffWhatIsTyped) {
+  constexpr Color kEditor{0, 0, 0};
+  // A digit that is cut begins right there; of a whole one there is a faint edge at most.
+  constexpr int kMargin = 2;
+  constexpr int kFaint = 60;
+  const auto isStrong = [](Color color) { return color.red > kFaint; };
+  for (const Area field : {kFine, kGrowing}) {
+    const Area edge{1, 1, kMargin, 16};
+    Focus(field);
+    Type(field.y == kFine.y ? "88888" : "8888888888");
+    const auto isWhole = [&] {
+      const Picture picture = LookAt({field.x, field.y, 24, 18});
+      return picture.Count(edge, isStrong) == 0 && picture.HasInk({3, 1, 8, 16}, kEditor);
+    };
+    EXPECT_TRUE(WaitUntil(isWhole)) << "the field at " << field.y;
+    Settle();
+    EXPECT_TRUE(isWhole()) << "the field at " << field.y;
+    keyboard.Type("Return");
+  }
+}
+
 TEST_F(GalleryNumbersTest, AnUnboundFieldIsGreyAndInert) {
   constexpr Color kUnbound{131, 132, 133};
   const auto isGrey = [kUnbound](Color color) { return color == kUnbound; };
