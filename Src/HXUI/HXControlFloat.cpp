@@ -58,6 +58,8 @@ HXControlFloat::HXControlFloat(HXObject* parentObject, HXPoint position, float* 
   SetColor(kBackground);
   editor->SetVisible(false);
   editor->SetMaxLength(kMaxTypedLength);
+  // The room for the typed text is measured in this font.
+  editor->SetFont(kFont, kEditorSize);
   editor->SetColor(kEditorBackground);
   editor->SetTextColor(kEditorText);
   FitSize();

@@ -53,6 +53,10 @@ void HXTextControl::SelectAll() {
 
 void HXTextControl::SetMaxLength(int length) { NativeText::SetMaxLength(textDelegate, length); }
 
+void HXTextControl::SetFont(const std::string& family, float size) {
+  if (!multiLine) NativeText::SetFont(nativeView, family, size);
+}
+
 void HXTextControl::SetTextColor(HXColor newColor) {
   textColor = newColor;
   NativeText::SetTextColor(nativeView, newColor);

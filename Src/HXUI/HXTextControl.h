@@ -67,6 +67,9 @@ class HXTextControl : public HXPanel {
   /// In UTF-16 units, 100 at first. A change by the user that makes the text
   /// longer is undone as a whole. Does not touch the text that is there.
   void SetMaxLength(int length);
+  /// Of a single-line control, which has the platform's font otherwise; `size` in points. As
+  /// `HXCocoaDC` finds fonts, so a text measured there is as wide here.
+  void SetFont(const std::string& family, float size);
   /// The text's colour, and the caret's in this window from now on.
   void SetTextColor(HXColor newColor);
   HXColor GetTextColor() const { return textColor; }

@@ -26,7 +26,7 @@ void DropPanel::Draw() {
 
 bool DropPanel::OnDropFile(const char* droppedPath) {
   path = droppedPath;
-  write("Dropped: " + path);
+  write("Dropped: " + path.substr(path.rfind('/') + 1));
   Redraw();
   return true;
 }

@@ -8,7 +8,7 @@
 /// Takes files that are dropped onto it. Owned by its parent.
 class DropPanel : public HXPanel {
  public:
-  /// `writeLine` hears of each file.
+  /// `writeLine` hears of the name of each file.
   DropPanel(HXObject* parent, HXPoint position, HXSize size,
             std::function<void(const std::string&)> writeLine);
 

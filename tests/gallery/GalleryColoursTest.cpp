@@ -38,10 +38,9 @@ class GalleryColoursTest : public GalleryTest {
   /// Waits for the editor of the number at this height.
   testing::AssertionResult IsEdited(int y) const {
     constexpr int kFieldX = 325;
-    constexpr Color kFrame{116, 200, 243};
     const bool isEdited = WaitUntil([&] {
       const Picture dialog = Look(kDialog);
-      return dialog.IsInside(kFieldX, y) && dialog.At(kFieldX, y + 3) == kFrame;
+      return dialog.IsInside(kFieldX, y) && dialog.At(kFieldX, y + 3) == kAccent;
     });
     if (isEdited) return testing::AssertionSuccess();
     return testing::AssertionFailure() << "no editor at " << y;

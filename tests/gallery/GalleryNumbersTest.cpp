@@ -17,8 +17,6 @@ class GalleryNumbersTest : public GalleryTest {
   static constexpr Area kBindable{620, 156, 16, 17};
   static constexpr Area kAngle{220, 100, 20, 17};
   static constexpr Area kFraction{220, 240, 20, 17};
-  /// Of a field that is being edited.
-  static constexpr Color kEditorFrame{116, 200, 243};
 
   void SetUp() override {
     GalleryTest::SetUp();
@@ -31,11 +29,21 @@ class GalleryNumbersTest : public GalleryTest {
     keyboard.Type("Return");
   }
 
+  /// Drags ten pixels to the right from 500, with a key held.
+  void DragWith(const char* key, const char* value) {
+    PressAt(kX, kCoarseY);
+    // Held before the press, it could make the window manager move the window.
+    const HeldKey held(desktop.Connection(), key);
+    MoveTo(kX + 10, kCoarseY);
+    EXPECT_TRUE(HasValue("coarse", value));
+    pointer.Release();
+  }
+
   /// How far the frame reaches that an editor at `x`, `y` has.
   int FrameWidth(int x, int y) const {
     const Picture line = LookAt({x, y, 150, 1});
     int width = 0;
-    while (width < line.width && line.At(width, 0) == kEditorFrame) ++width;
+    while (width < line.width && line.At(width, 0) == kAccent) ++width;
     return width;
   }
 };
@@ -113,6 +121,27 @@ TEST_F(GalleryNumbersTest, TheFieldGrowsWithWhatIsTyped) {
   keyboard.Type("Return");
 }
 
+TEST_F(GalleryNumbersTest, NothingIsCutOffWhatIsTyped) {
+  constexpr Color kEditor{0, 0, 0};
+  // A digit that is cut begins right there; of a whole one there is a faint edge at most.
+  constexpr int kMargin = 2;
+  constexpr int kFaint = 60;
+  const auto isStrong = [](Color color) { return color.red > kFaint; };
+  for (const Area field : {kFine, kGrowing}) {
+    const Area edge{1, 1, kMargin, 16};
+    Focus(field);
+    Type(field.y == kFine.y ? "88888" : "8888888888");
+    const auto isWhole = [&] {
+      const Picture picture = LookAt({field.x, field.y, 24, 18});
+      return picture.Count(edge, isStrong) == 0 && picture.HasInk({3, 1, 8, 16}, kEditor);
+    };
+    EXPECT_TRUE(WaitUntil(isWhole)) << "the field at " << field.y;
+    Settle();
+    EXPECT_TRUE(isWhole()) << "the field at " << field.y;
+    keyboard.Type("Return");
+  }
+}
+
 TEST_F(GalleryNumbersTest, AnUnboundFieldIsGreyAndInert) {
   constexpr Color kUnbound{131, 132, 133};
   const auto isGrey = [kUnbound](Color color) { return color == kUnbound; };
@@ -129,12 +158,11 @@ TEST_F(GalleryNumbersTest, AnUnboundFieldIsGreyAndInert) {
 }
 
 TEST_F(GalleryNumbersTest, TheRowClosesUpAroundItsFields) {
-  constexpr Color kDots{116, 200, 243};
   // The last dot of the last field.
-  const auto end = [this, kDots] {
+  const auto end = [this] {
     const Picture row = LookAt({400, 256, 340, 26});
     for (int x = row.width - 1; x > 0; --x) {
-      if (row.Count({x, 0, 1, 26}, [kDots](Color color) { return color == kDots; }) > 0) return x;
+      if (row.Count({x, 0, 1, 26}, [](Color color) { return color == kAccent; }) > 0) return x;
     }
     return 0;
   };
@@ -170,22 +198,9 @@ TEST_F(GalleryNumbersTest, UpAndRightAreMoreDownAndLeftAreLess) {
   pointer.Release();
 }
 
-TEST_F(GalleryNumbersTest, ShiftDragsThreeTimesAsFar) {
-  PressAt(kX, kCoarseY);
-  const HeldKey shift(desktop.Connection(), "Shift_L");
-  MoveTo(kX + 10, kCoarseY);
-  EXPECT_TRUE(HasValue("coarse", "515"));
-  pointer.Release();
-}
+TEST_F(GalleryNumbersTest, ShiftDragsThreeTimesAsFar) { DragWith("Shift_L", "515"); }
 
-TEST_F(GalleryNumbersTest, CommandDragsAFifthAsFar) {
-  PressAt(kX, kCoarseY);
-  // Held before the press, it would make the window manager move the window.
-  const HeldKey command(desktop.Connection(), "Alt_L");
-  MoveTo(kX + 10, kCoarseY);
-  EXPECT_TRUE(HasValue("coarse", "501"));
-  pointer.Release();
-}
+TEST_F(GalleryNumbersTest, CommandDragsAFifthAsFar) { DragWith("Alt_L", "501"); }
 
 TEST_F(GalleryNumbersTest, ADragGoesOnOutsideTheWindow) {
   PressAt(kX, kCoarseY);

@@ -102,6 +102,29 @@ TEST_F(GalleryPanelsTest, EscapeCancels) {
       LogIs({"Folder: cancelled", "Open: cancelled", "Open: cancelled", "Save: cancelled"}));
 }
 
+TEST_F(GalleryPanelsTest, APanelLooksTheSameEachTime) {
+  constexpr Area kFirstRow{40, 99, 60, 12};
+  constexpr int kButtonRow = 40;
+  constexpr Color kPaper{170, 170, 170};
+  const auto isDrawn = [&] {
+    const Picture picture = panel.Look();
+    return picture.width > 300 && picture.HasInk(kFirstRow, kPaper) &&
+           picture.HasInk({0, picture.height - kButtonRow, picture.width, kButtonRow}, kPaper);
+  };
+  Picture first;
+  for (int opening = 0; opening < 3; ++opening) {
+    Click(kChooseFolder);
+    ASSERT_TRUE(panel.IsUp());
+    ASSERT_TRUE(WaitUntil(isDrawn));
+    if (opening == 0) first = panel.Look();
+    // The caret of the name field comes and goes.
+    EXPECT_TRUE(WaitUntil([&] { return panel.Look() == first; })) << "opening " << opening;
+    keyboard.Type("Escape");
+    ASSERT_TRUE(panel.IsGone());
+    ASSERT_TRUE(IsUp(kTitle));
+  }
+}
+
 TEST_F(GalleryPanelsTest, TheCancelButtonCancels) {
   Click(kChooseFolder);
   ASSERT_TRUE(panel.IsUp());

@@ -8,6 +8,7 @@
 
 #include "tests/endtoend/Waiting.h"
 #include "tests/gallery/Keys.h"
+#include "tests/gallery/SelectionOwner.h"
 
 namespace {
 
@@ -19,8 +20,6 @@ constexpr int kValuesPitch = 14;
 constexpr Area kLog{524, 468, 359, 160};
 constexpr int kLogPitch = 15;
 constexpr Area kClearButton{832, 446, 50, 18};
-/// The label of the chosen view's button.
-constexpr Color kAccent{116, 200, 243};
 
 using Lines = std::vector<std::string>;
 
@@ -65,9 +64,8 @@ void GalleryTest::SetUp() {
   Start();
 }
 
-void GalleryTest::Start() {
+ChildProcess::Setup GalleryTest::SetupFor(const Machine& machine) {
   ChildProcess::Setup setup;
-  setup.command = {machine.Path("Downloads/Gallery.app/Gallery")};
   setup.environment = machine.Environment();
   setup.environment.push_back("DISPLAY=" + server->name);
   setup.environment.emplace_back("PATH=/usr/local/bin:/usr/bin:/bin");
@@ -77,6 +75,12 @@ void GalleryTest::Start() {
   }
   setup.folder = machine.path;
   setup.errors = machine.Path("errors.log");
+  return setup;
+}
+
+void GalleryTest::Start() {
+  ChildProcess::Setup setup = SetupFor(machine);
+  setup.command = {machine.Path("Downloads/Gallery.app/Gallery")};
   process = std::make_unique<ChildProcess>(setup);
   orphans.Except(process->Id());
 
@@ -113,7 +117,7 @@ void GalleryTest::TeachReader() {
     const std::string letters = TextReader::kAlphabet.substr(at, kPortion);
     // A second lesson for a machine that is too busy for the first one.
     ASSERT_TRUE(TeachLetters(letters) || TeachLetters(letters))
-        << "the typed text is not seen among the values";
+        << "the pasted text is not seen among the values";
   }
   SelectAllIn({170, 40, 180, 20});
   Type("Plain text");
@@ -126,7 +130,9 @@ bool GalleryTest::TeachLetters(const std::string& letters) {
   const Picture before = Look().Crop(kFirstValue);
   keyboard.Type("BackSpace");
   if (!WaitUntil([this, &before] { return Look().Crop(kFirstValue) != before; })) return false;
-  Type(TextReader::Lesson(letters));
+  // Pasted, as there are letters without a key.
+  const SelectionOwner owner(server->name, TextReader::Lesson(letters));
+  TypeCommand("v");
   return WaitUntil([this, &letters] { return reader.Learn(Look(), kFirstValue, letters); });
 }
 

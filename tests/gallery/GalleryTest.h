@@ -41,6 +41,8 @@ class GalleryTest : public testing::Test {
   static constexpr const char* kTitle = "Gallery";
   static constexpr Color kPanel{30, 30, 30};
   static constexpr Color kPage{70, 70, 70};
+  /// Of headings, numbers, frames, and the label of the chosen view's button.
+  static constexpr Color kAccent{116, 200, 243};
 
   static void SetUpTestSuite();
   static void TearDownTestSuite();
@@ -100,6 +102,8 @@ class GalleryTest : public testing::Test {
   Area Content(const char* title = kTitle) const;
 
   static const std::string& DisplayName() { return server->name; }
+  /// What a program needs on this display and machine; its command is missing.
+  static ChildProcess::Setup SetupFor(const Machine& machine);
 
   Machine machine;
   Desktop desktop;

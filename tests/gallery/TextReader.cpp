@@ -1,5 +1,6 @@
 #include "tests/gallery/TextReader.h"
 
+#include <array>
 #include <cstdlib>
 
 namespace {
@@ -7,10 +8,14 @@ namespace {
 /// Left of a bar's two inked columns in its own cell.
 constexpr int kBarBearing = 1;
 
-/// The font draws these two letters as one.
-constexpr char kLigature = 1;
+/// Letters that are more than one byte stand in the alphabet as numbers: the two that the
+/// font draws as one, and some beyond ASCII.
+const std::array<std::string, 4> kLongLetters{"", "fi", "\u00E9", "\u00E0"};
 
-std::string Spell(char letter) { return letter == kLigature ? "fi" : std::string(1, letter); }
+std::string Spell(char letter) {
+  const auto number = static_cast<std::size_t>(letter);
+  return number < kLongLetters.size() ? kLongLetters[number] : std::string(1, letter);
+}
 
 bool IsBar(const Picture& picture, int x, int y) {
   constexpr int kFaint = 30;
@@ -46,7 +51,8 @@ bool Fits(const Picture& glyph, const Picture& picture, int x, int y) {
 }  // namespace
 
 const std::string TextReader::kAlphabet =
-    "\1abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 =:,.()-#\"'&";
+    "\1\2\3"
+    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 =:,.()-#\"'&";
 
 std::string TextReader::Lesson(const std::string& letters) {
   // The distance of the first two bars tells how wide a bar is.

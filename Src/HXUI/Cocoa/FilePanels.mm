@@ -100,6 +100,10 @@ NSArray* ToArray(const std::vector<std::string>& types) {
 
 /// True when the user confirmed. A panel that breaks down counts as cancelled.
 bool Run(NSSavePanel* panel) {
+  // There is one panel for all runs. Window managers take the frame off a window
+  // that is put away, and GNUstep then moves it as if it had none, which makes it
+  // too large. A window that is made anew for each run has no such past.
+  [panel setOneShot:YES];
   bool confirmed = false;
   @try {
     confirmed = [panel runModal] == NSOKButton;

@@ -35,6 +35,8 @@ std::string GetPlainText(NSView* textView);
 /// Of a field in a window; takes the keyboard if need be.
 void SelectAll(NSView* field);
 void SetMaxLength(HXTextDelegate* delegate, int length);
+/// Of a field.
+void SetFont(NSView* field, const std::string& family, float size);
 void SetTextColor(NSView* view, HXColor color);
 void SetBackgroundColor(NSView* view, HXColor color);
 

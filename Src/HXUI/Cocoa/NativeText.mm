@@ -193,6 +193,10 @@ void NativeText::SetMaxLength(HXTextDelegate* delegate, int length) {
   [delegate setMaximumLength:length];
 }
 
+void NativeText::SetFont(NSView* field, const std::string& family, float size) {
+  [AsField(field) setFont:FontLookup::Find(family, false, false, size)];
+}
+
 void NativeText::SetTextColor(NSView* view, HXColor color) {
   NSColor* native = ToCalibratedColor(color);
   if (IsTextView(view)) {

@@ -185,6 +185,14 @@ TEST_F(HXControlFloatEditingTest, TakesTwentyCharacters) {
   EXPECT_EQ(EditorOf(*field).GetText(), "12345678901234567890");
 }
 
+TEST_F(HXControlFloatEditingTest, TheTypedTextIsAsWideAsItIsMeasured) {
+  Make()->BeginEdit();
+  NSFont* font = [static_cast<NSTextField*>(EditorOf(*field).GetNativeView()) font];
+  NSDictionary* attributes = [NSDictionary dictionaryWithObject:font forKey:NSFontAttributeName];
+  const NSSize shown = [@"1234567890" sizeWithAttributes:attributes];
+  EXPECT_NEAR(shown.width, Measure("1234567890", 11).width, 1);
+}
+
 TEST_F(HXControlFloatEditingTest, TabIsSwallowed) {
   Make();
   new HXTextControl(window.get(), {20, 20}, {100, 20}, "", 0);
