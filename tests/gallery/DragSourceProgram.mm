@@ -4,8 +4,8 @@
 // or else DRAG_TEXT a text.
 //
 // Says on standard output, a word a line, how it goes: "dragging",
-// "accepted" and "refused" whenever the place under the pointer changes
-// its mind, and "ended".
+// "accepted" and "refused" when the place under the pointer has made
+// up its mind, and "ended".
 
 #import <AppKit/AppKit.h>
 
@@ -40,7 +40,8 @@ void FillPasteboard(NSPasteboard* pasteboard) {
 @interface DragApplication : NSApplication {
  @public
   BOOL isOver;
-  long lastAnswer;
+  NSUInteger lastAnswer;
+  NSUInteger toldAnswer;
 }
 @end
 
@@ -52,9 +53,14 @@ void FillPasteboard(NSPasteboard* pasteboard) {
                           dequeue:(BOOL)dequeue {
   NSEvent* event = [super nextEventMatchingMask:mask untilDate:date inMode:mode dequeue:dequeue];
   if ([event type] == NSAppKitDefined && [event subtype] == GSAppKitDraggingStatus) {
-    const long answer = [event data2] == NSDragOperationNone ? 1 : 2;
+    const NSUInteger answer = [event data2] == NSDragOperationNone ? 1 : 2;
+    // A window that the drag comes into answers twice, and differently: the platform asks it
+    // about some other place first. Only the periodic questions that follow are answered alike.
     // Some answers are still on their way when all is over.
-    if (answer != lastAnswer && !isOver) Say(answer == 1 ? "refused" : "accepted");
+    if (answer == lastAnswer && answer != toldAnswer && !isOver) {
+      Say(answer == 1 ? "refused" : "accepted");
+      toldAnswer = answer;
+    }
     lastAnswer = answer;
   }
   return event;
