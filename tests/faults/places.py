@@ -30,6 +30,9 @@ Fault = collections.namedtuple("Fault", "path line length kind before after")
 FILLED = re.compile(r"^\s*[\w:]+ (\w+) = \w+;$")
 
 CALL = re.compile(r"^(\s+)(?:\w+(?:->|\.|::))*\w+\(.*\);\s*$|^(\s+)\[.*\];\s*$")
+# Fully transparent: nobody sees which colour it is.
+NO_COLOR = "{0, 0, 0, 0}"
+
 # Two properties of one object are set in either order.
 SETTER = re.compile(r"^\s*(?:\[(\w+) set[A-Z]\w*:.*\]|(\w+)(?:\.|->)Set\w+\(.*\));\s*$")
 
@@ -58,7 +61,7 @@ def indentation(line):
 
 def constants(line):
     """Each number becomes one larger."""
-    if BUFFER.search(line) or "HXAssertFailed(" in line:
+    if BUFFER.search(line) or "HXAssertFailed(" in line or NO_COLOR in line and "HXColor" in line:
         return
     for match in re.finditer(r"(?<![\w.\"])(\d+)(\.\d+)?F?(?![\w.\"'])", line):
         if is_outside_texts(line, match.start()):
