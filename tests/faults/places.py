@@ -30,6 +30,12 @@ Fault = collections.namedtuple("Fault", "path line length kind before after")
 FILLED = re.compile(r"^\s*[\w:]+ (\w+) = \w+;$")
 
 CALL = re.compile(r"^(\s+)(?:\w+(?:->|\.|::))*\w+\(.*\);\s*$|^(\s+)\[.*\];\s*$")
+# Fully transparent: nobody sees which colour it is.
+NO_COLOR = "{0, 0, 0, 0}"
+
+# Two properties of one object are set in either order.
+SETTER = re.compile(r"^\s*(?:\[(\w+) set[A-Z]\w*:.*\]|(\w+)(?:\.|->)Set\w+\(.*\));\s*$")
+
 SWAPPED_OPERATORS = (
     (" < ", " <= "), (" > ", " >= "), (" <= ", " < "), (" >= ", " > "), (" == ", " != "),
     (" != ", " == "), (" && ", " || "), (" || ", " && "), (" + ", " - "), (" - ", " + "))
@@ -55,7 +61,7 @@ def indentation(line):
 
 def constants(line):
     """Each number becomes one larger."""
-    if BUFFER.search(line) or "HXAssertFailed(" in line:
+    if BUFFER.search(line) or "HXAssertFailed(" in line or NO_COLOR in line and "HXColor" in line:
         return
     for match in re.finditer(r"(?<![\w.\"])(\d+)(\.\d+)?F?(?![\w.\"'])", line):
         if is_outside_texts(line, match.start()):
@@ -93,6 +99,9 @@ def calls(line, following):
     if not CALL.match(line) or line.strip().startswith("return"):
         return
     yield 1, "call removed", indentation(line) + ";\n"
+    setters = SETTER.match(line), SETTER.match(following)
+    if all(setters) and setters[0].groups() == setters[1].groups():
+        return
     if (CALL.match(following) and is_code(following) and following != line
             and indentation(line) == indentation(following)):
         yield 2, "order swapped", following + line

@@ -8,6 +8,7 @@ display, a home, temporary folders) of its own. The same seed chooses the same f
 
 import argparse
 import collections
+import fcntl
 import pathlib
 import sys
 import threading
@@ -143,6 +144,17 @@ def main():
     print(f"==> {len(chosen)} of {sum(map(len, found.values()))} possible faults, "
           f"in {len({fault.path for fault in chosen})} files", flush=True)
 
+    folder = build / "faults"
+    folder.mkdir(exist_ok=True)
+    with (folder / "lock").open("w") as lock:
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            raise SystemExit("There is another run in this build folder.") from None
+        return plant(root, build, options, chosen, left)
+
+
+def plant(root, build, options, chosen, left):
     programs = Programs(root, build)
     reach = Reach(programs, build / "faults" / "reach")
     trials = [Trial(programs, reach, build / "faults" / f"worker-{number}", read_environment(file))

@@ -144,6 +144,17 @@ TEST(PropertyListGuardTest, BinaryObjectsBeyondTheFileAreNotSafe) {
   }
 }
 
+TEST(PropertyListGuardTest, ALongCountInTheTableOfOffsetsIsNotSafe) {
+  // The root is the byte before the table, and the table looks like the count that it announces.
+  const std::string header = "bplist00" + std::string(8, '\x09');
+  const std::string number(7, '\0');
+  const std::string trailer =
+      std::string(6, '\0') + "\x01\x01" + number + "\x01"s + number + "\0"s + number + "\x11"s;
+  EXPECT_FALSE(IsSafePropertyList(header + "\x4F\x10" + trailer));
+  // The same list with a root that announces none.
+  EXPECT_TRUE(IsSafePropertyList(header + "\x09\x10" + trailer));
+}
+
 TEST(PropertyListGuardTest, ReferencesToNoObjectAreNotSafe) {
   EXPECT_TRUE(IsSafePropertyList(BinaryListBytes({ArrayBytes({1}), "Qa"})));
   EXPECT_FALSE(IsSafePropertyList(BinaryListBytes({ArrayBytes({2}), "Qa"})));

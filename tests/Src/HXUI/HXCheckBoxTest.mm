@@ -2,6 +2,7 @@
 
 #include "resources/Pictures.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -188,6 +189,18 @@ TEST_F(HXCheckBoxTest, OwnerMayUnbindTheBoxBeforeTheChange) {
   Click(*box, {5, 5});
   EXPECT_EQ(value, 0);
   EXPECT_EQ(owner.changes.size(), 1U);
+}
+
+TEST_F(HXCheckBoxTest, TheLabelIsInVerdanaOfElevenPoints) {
+  const auto drawn = Draw(*Make("CC 2015.3"));
+  PaintedPanel expected(window.get(), {200, 14}, [](HXCocoaDC& dc) {
+    dc.SetFillColor(kBackground);
+    dc.DrawRect({0, 0, 200, 14});
+    dc.SetTextColor({200, 200, 200, 255});
+    dc.SetFont("Verdana", 0, 11);
+    dc.DrawText("CC 2015.3", {20, 0, 0, 0}, 0);
+  });
+  EXPECT_EQ(CountUnlike(*drawn, *Draw(expected), kLabelStrip), 0);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "resources/Pictures.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
 #include "tests/Src/HXUI/MenuDriver.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -271,6 +272,39 @@ TEST_F(HXComboBoxTest, FieldMayBeDeletedWhileItsMenuIsOpen) {
   EXPECT_TRUE(driver.wasOpen);
   EXPECT_EQ(value, 0);
   EXPECT_TRUE(owner.changes.empty());
+}
+
+TEST_F(HXComboBoxTest, TheTextIsInBoldTahomaOfTenPointsWithinTheFace) {
+  const struct {
+    bool light;
+    bool bound;
+    HXColor color;
+  } table[] = {{true, true, {211, 214, 215, 255}},
+               {true, false, {180, 180, 180, 255}},
+               {false, true, {0, 0, 0, 255}},
+               {false, false, {75, 75, 75, 255}}};
+  // The longer one does not fit.
+  for (const std::string text : {"64-bit", "A text that is wider than its field"}) {
+    for (const auto& row : table) {
+      HXComboBox* box = Make("0/" + text, row.light);
+      if (!row.bound) {
+        delete box;
+        box = new HXComboBox(window.get(), {50, 50}, "0/" + text, nullptr, row.light);
+      }
+      const auto drawn = Draw(*box);
+      delete box;
+      const EmbeddedFile& face = row.light ? kComboLightTextPng : kComboBlackTextPng;
+      const HXBitmap background(face.bytes, face.length);
+      PaintedPanel expected(window.get(), kSize, [&](HXCocoaDC& dc) {
+        dc.DrawBitmap(background, {0, 0}, kSize);
+        dc.SetFont("Tahoma", HXCocoaDC::kBold, 10);
+        dc.SetTextColor(row.color);
+        dc.SetClipRect({4, 1, 86, 13});
+        dc.DrawText(text, {0, 2, 94, 13}, HXCocoaDC::kCentre);
+      });
+      EXPECT_EQ(CountUnlike(*drawn, *Draw(expected)), 0) << text << row.light << row.bound;
+    }
+  }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "Src/HXUI/Cocoa/HXCocoaDC.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -115,6 +116,29 @@ TEST_F(HXHelpTipTest, WithoutTitleTheTextStartsAtTheTop) {
   EXPECT_NEAR(ink.x, 6, 2);
   EXPECT_LE(ink.y, 9);
   EXPECT_TRUE(IsNear(Brightest(*pixels, inside), {167, 167, 167, 255}, 20));
+}
+
+TEST_F(HXHelpTipTest, ItsTextsAreInElevenPoints) {
+  for (const std::string title : {kTitle, ""}) {
+    tip.Show({300, 400}, title, kText);
+    const HXSize size = tip.GetSize();
+    const auto drawn = Draw(tip);
+    window->SetSize({500, 300});
+    PaintedPanel expected(window.get(), size, [&](HXCocoaDC& dc) {
+      dc.SetFillColor(kBackground);
+      dc.DrawRect({0, 0, size.width, size.height});
+      dc.SetFont("Tahoma", HXCocoaDC::kBold, 11);
+      dc.SetTextColor({255, 255, 255, 255});
+      if (!title.empty()) dc.DrawText(title, {15, 10, 0, 0}, 0);
+      dc.SetFont("Verdana", 0, 11);
+      dc.SetTextColor({167, 167, 167, 255});
+      const HXPoint start = title.empty() ? HXPoint{5, 5} : HXPoint{15, 28};
+      dc.DrawText(kText, {start.x, start.y, 300, size.height}, 0);
+    });
+    // Within the frames.
+    EXPECT_EQ(CountUnlike(*drawn, *Draw(expected), {2, 2, size.width - 4, size.height - 4}), 0)
+        << title;
+  }
 }
 
 }  // namespace

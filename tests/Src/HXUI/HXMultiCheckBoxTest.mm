@@ -5,6 +5,7 @@
 #include "Src/HXUI/HXCheckBox.h"
 #include "resources/Pictures.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -122,6 +123,24 @@ TEST_F(HXMultiCheckBoxTest, OwnerMayDeleteItInItsCallback) {
   Click(*multi->GetChildren()[0], {5, 5});
   EXPECT_EQ(values[0], 1);
   EXPECT_TRUE(window->GetChildren().empty());
+}
+
+TEST_F(HXMultiCheckBoxTest, CaptionsAreInVerdanaOfTenPoints) {
+  for (const bool bound : {true, false}) {
+    multi->SetValues(bound ? values.data() : nullptr);
+    const auto drawn = Draw(*multi);
+    PaintedPanel expected(window.get(), {100, 14}, [bound](HXCocoaDC& dc) {
+      dc.SetFillColor(kBackground);
+      dc.DrawRect({0, 0, 100, 14});
+      dc.SetFont("Verdana", 0, 10);
+      dc.SetTextColor(bound ? HXColor{216, 217, 217, 255} : HXColor{131, 132, 133, 255});
+      dc.DrawText("X", {0, 1, 0, 0}, 0);
+      dc.DrawText("Y", {36, 1, 0, 0}, 0);
+      dc.DrawText("Z", {72, 1, 0, 0}, 0);
+    });
+    const auto painted = Draw(expected);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(CountUnlike(*drawn, *painted, CaptionRect(i)), 0) << i;
+  }
 }
 
 }  // namespace

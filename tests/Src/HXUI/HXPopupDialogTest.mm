@@ -5,6 +5,7 @@
 #include "Src/HXUI/HXSystemButton.h"
 #include "Src/HXUI/KeyCode.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -211,6 +212,22 @@ TEST_F(HXPopupDialogTest, MayBeDestroyedByItsOwnButton) {
   Click(*Button(*dialog, 0), {5, 5});
   EXPECT_TRUE(window->GetChildren().empty());
   Pump();
+}
+
+TEST_F(HXPopupDialogTest, ItsTextIsCentredInVerdanaOfElevenPoints) {
+  HXPopupDialog dialog(window.get(), "Title", kText, false, false, false);
+  const HXSize size = dialog.GetSize();
+  const auto drawn = Draw(dialog);
+  window->SetSize({500, 300});
+  PaintedPanel expected(window.get(), size, [size](HXCocoaDC& dc) {
+    dc.SetFillColor(kBackground);
+    dc.DrawRect({0, 0, size.width, size.height});
+    dc.SetFont("Verdana", 0, 11);
+    dc.SetTextColor({200, 200, 200, 255});
+    dc.DrawText(kText, {5, 15, size.width - 10, size.height - 80}, HXCocoaDC::kCentre);
+  });
+  // Above the button.
+  EXPECT_EQ(CountUnlike(*drawn, *Draw(expected), {0, 0, size.width, size.height - 45}), 0);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "Src/HXUI/HXSystemButton.h"
 
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -160,6 +161,24 @@ TEST_F(HXSystemButtonTest, OwnerMayDeleteTheButtonOnItsClick) {
   Click(*button, {5, 5});
   EXPECT_TRUE(window->GetChildren().empty());
   Pump();
+}
+
+TEST_F(HXSystemButtonTest, TheLabelIsInBoldTahomaOfElevenPoints) {
+  for (const bool enabled : {true, false}) {
+    HXSystemButton* button = Make("I ACCEPT");
+    button->SetEnabled(enabled);
+    const auto drawn = Draw(*button);
+    delete button;
+    PaintedPanel expected(window.get(), kSize, [&](HXCocoaDC& dc) {
+      dc.SetFillColor(enabled ? kFace : kDisabledFace);
+      dc.DrawRect(kAll);
+      dc.SetFont("Tahoma", HXCocoaDC::kBold, 11);
+      dc.SetTextColor(enabled ? HXColor{209, 211, 212, 255} : HXColor{134, 134, 134, 255});
+      dc.DrawText("I ACCEPT", {0, 0, kSize.width + 1, kSize.height + 1},
+                  HXCocoaDC::kCentre | HXCocoaDC::kCentreVertically);
+    });
+    EXPECT_EQ(CountUnlike(*drawn, *Draw(expected)), 0) << enabled;
+  }
 }
 
 }  // namespace

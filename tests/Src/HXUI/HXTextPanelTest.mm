@@ -2,6 +2,7 @@
 
 #include "Src/HXUI/Cocoa/HXCocoaDC.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -68,6 +69,22 @@ TEST_F(HXTextPanelTest, LongTextWrapsWithinThePanel) {
   EXPECT_GT(ink.width, 100);
   EXPECT_LE(ink.x, 4);
   EXPECT_TRUE(IsNear(Brightest(*pixels, All()), {200, 200, 200, 255}, 20));
+}
+
+TEST_F(HXTextPanelTest, DrawsItsTextFromTheCornerInTahomaOfElevenPoints) {
+  const std::string text = "One line\nand words that go on for longer than the panel is wide";
+  panel->SetText(text);
+  const HXSize size = panel->GetSize();
+  const auto drawn = Draw(*panel);
+  panel->SetVisible(false);
+  PaintedPanel expected(window.get(), size, [&](HXCocoaDC& dc) {
+    dc.SetFillColor(kBackground);
+    dc.DrawRect({0, 0, size.width, size.height});
+    dc.SetTextColor({200, 200, 200, 255});
+    dc.SetFont("Tahoma", 0, 11);
+    dc.DrawText(text, {0, 0, size.width, size.height}, 0);
+  });
+  EXPECT_EQ(CountUnlike(*drawn, *Draw(expected)), 0);
 }
 
 TEST_F(HXTextPanelTest, SettingTheTextRedraws) {

@@ -23,8 +23,9 @@ TEST(RtfFieldsTest, AFieldWithoutInstructionBecomesAnUnknownGroup) {
 TEST(RtfFieldsTest, SoDoesOneWithAnInstructionThatIsNoText) {
   for (const char* instruction :
        {R"({\*\fldinst})", R"({\*\fldinst  })", R"({\*\fldinst a\b c})", R"({\*\fldinst{a}b})",
-        R"({\*\fldedit a})", R"({\*\fldinstx a})", R"({\*\fldinst1 a})", R"({\fldinst a})",
-        R"({\*\fldinst a)", R"({\*\fldinst)", R"({\*)", R"({)"}) {
+        R"({\*fldinst a})", R"({* a})", R"({\*\fldinst-1 a})", R"({\*\fldedit a})",
+        R"({\*\fldinstx a})", R"({\*\fldinst1 a})", R"({\fldinst a})", R"({\*\fldinst a)",
+        R"({\*\fldinst)", R"({\*)", R"({)"}) {
     const std::string start = R"({\rtf1{\field)";
     const std::string disarmed = R"({\rtf1{\disarmedfield)";
     EXPECT_EQ(DisarmUnusual(start + instruction), disarmed + instruction);

@@ -56,6 +56,11 @@ TEST_F(RtfFontTableTest, LeavesFamiliesWrittenWithEscapes) {
   EXPECT_EQ(Replace(rtf).substr(0, 22), rtf.substr(0, 22));
 }
 
+TEST_F(RtfFontTableTest, ASignWithABackslashEndsWithItself) {
+  EXPECT_EQ(Replace("{\\fonttbl\\f0\\fnil\\~abc;}"), "{\\fonttbl\\f0\\fnil\\~ABC;}");
+  EXPECT_EQ(Replace("{\\fonttbl\\f0\\fprq-2 abc;}"), "{\\fonttbl\\f0\\fprq-2 ABC;}");
+}
+
 TEST_F(RtfFontTableTest, LeavesADocumentWithoutATable) {
   EXPECT_EQ(Replace("{\\rtf1 plain;}"), "{\\rtf1 plain;}");
   EXPECT_EQ(Replace(""), "");

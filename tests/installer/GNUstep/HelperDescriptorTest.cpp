@@ -63,6 +63,7 @@ TEST(HelperDescriptorTest, ReleasesWithoutClosing) {
   HelperDescriptor descriptor(OpenNull());
   const int number = descriptor.Release();
   EXPECT_FALSE(descriptor.IsOpen());
+  EXPECT_EQ(descriptor.Number(), -1);
   EXPECT_TRUE(IsOpen(number));
   ::close(number);
 }
