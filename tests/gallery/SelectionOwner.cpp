@@ -76,7 +76,7 @@ std::string ReadProperty(Display* display, Window window, Atom property) {
   unsigned char* value = nullptr;
   XGetWindowProperty(display, window, property, 0, 4096, False, AnyPropertyType, &type, &format,
                      &count, &rest, &value);
-  const std::string text(value == nullptr ? "" : reinterpret_cast<const char*>(value));
+  std::string text(value == nullptr ? "" : reinterpret_cast<const char*>(value));
   if (value != nullptr) XFree(value);
   return text;
 }
@@ -103,7 +103,7 @@ std::string ReadClipboard(const std::string& displayName) {
     return XCheckTypedWindowEvent(display, window, SelectionNotify, &event) != 0;
   });
   const bool given = answered && event.xselection.property != None;
-  const std::string text = given ? ReadProperty(display, window, property) : "";
+  std::string text = given ? ReadProperty(display, window, property) : "";
   XCloseDisplay(display);
   return text;
 }
