@@ -43,6 +43,7 @@ NSDictionary* TextLook::Attributes() const {
 
 TextLook::Key TextLook::KeyOf(const std::string& text, NSSize size) const {
   const std::uint32_t alignment = flags & (HXCocoaDC::kCentre | HXCocoaDC::kRight);
-  const std::int64_t colorBits = color ? std::bit_cast<std::uint32_t>(*color) : -1;
+  // In the wide type, where none has the bits of white.
+  const std::int64_t colorBits = color ? std::int64_t{std::bit_cast<std::uint32_t>(*color)} : -1;
   return {text, font, alignment, colorBits, underline, size.width, size.height};
 }

@@ -55,6 +55,21 @@ class HXCocoaDCTextTest : public DrawingFixture {
 
 // Text
 
+TEST_F(HXCocoaDCTextTest, TextIsBlackUntilItHasAColourEvenWhenItWasWhiteBefore) {
+  const HXRect all{0, 0, 120, 40};
+  for (const std::string text : {"black first", "white first"}) {
+    const auto paintBlack = [&] {
+      return Paint({120, 40}, [&](HXCocoaDC& dc) {
+        dc.SetFont("Verdana", 0, kFontSize);
+        dc.DrawText(text, {10, 10, 0, 0}, 0);
+      });
+    };
+    if (text == "black first") EXPECT_EQ(paintBlack()->Ink(all, kBlack), 0);
+    EXPECT_GT(PaintText({120, 40}, text, {10, 10, 0, 0}, 0)->Ink(all, kBlack), 0) << text;
+    EXPECT_EQ(paintBlack()->Ink(all, kBlack), 0) << text;
+  }
+}
+
 TEST_F(HXCocoaDCTextTest, TextAtAPointStandsOneToTheRightAndTwoAbove) {
   const auto pixels = PaintText({120, 40}, "Hxg Ölpreis", {10, 9, 0, 0}, 0);
   const auto expected = PaintNativeText({120, 40}, @"Hxg Ölpreis", NSMakePoint(11, 7),
