@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 
 #include <chrono>
+#include <cstdint>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -237,6 +239,13 @@ TEST_F(PropertyListFileTest, WhatIsNoRegularFileIsRefusedAtOnce) {
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   EXPECT_FALSE(ReadPropertyListFile(pipe).has_value());
   EXPECT_FALSE(ReadPropertyListFile(folder.AddLink("loop.plist", "loop.plist")).has_value());
+}
+
+TEST_F(PropertyListFileTest, AFileLargerThanTheMemoryIsRefusedUnread) {
+  const std::string file = folder.AddFile("list.plist", kXmlInfo);
+  constexpr std::uintmax_t kTerabyte = 1ULL << 40;
+  std::filesystem::resize_file(file, 8 * kTerabyte);
+  EXPECT_FALSE(ReadPropertyListFile(file).has_value());
 }
 
 TEST_F(PropertyListFileTest, ALinkToAFileIsFollowed) {

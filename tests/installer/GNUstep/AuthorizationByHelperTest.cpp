@@ -316,6 +316,19 @@ TEST_F(AuthorizationByHelperTest, TakesNoRightsFromAProgramThatDoesNotGreet) {
   EXPECT_EQ(strange.CopyRights(kRight), kAuthorizationCanceled);
 }
 
+TEST_F(AuthorizationByHelperTest, GivesUpAfterAnAnswerOfTheWrongKind) {
+  // Greets a second time in place of an answer.
+  const std::string greeting = "printf 'OIH1H\\000' >&0\n";
+  AuthorizationByHelper strange(Asking(greeting + greeting + "exec /bin/cat > /dev/null\n"));
+  ASSERT_EQ(strange.CopyRights(kRight), kAuthorizationSuccess);
+  FILE* pipe = stdin;
+  EXPECT_EQ(strange.ExecuteWithPrivileges("/bin/mkdir", {folder.Path("made")}, &pipe),
+            kAuthorizationToolExecuteFailure);
+  EXPECT_EQ(pipe, nullptr);
+  EXPECT_EQ(strange.ExecuteWithPrivileges("/bin/mkdir", {folder.Path("made")}, &pipe),
+            kAuthorizationInvalidReference);
+}
+
 TEST_F(AuthorizationByHelperTest, GoesOnAfterARefusedTool) {
   ASSERT_EQ(authorization.CopyRights(kRight), kAuthorizationSuccess);
   FILE* pipe = stdin;
