@@ -245,6 +245,18 @@ TEST_F(HXBrowserSearchTest, CanBeDeletedWhileItIsTypedInto) {
   EXPECT_TRUE(owner.changes.empty());
 }
 
+TEST_F(HXBrowserSearchTest, HearsNothingOfItsBoxOnceItIsDeleted) {
+  search->OnFocusGained();
+  Type(@"oak");
+  NSView* box = [[Box().GetNativeView() retain] autorelease];
+  const NSRect frame = [box frame];
+  delete search;
+  search = nullptr;
+  Pump();
+  // While it is typed into, the box is wider.
+  EXPECT_TRUE(NSEqualRects([box frame], frame));
+}
+
 TEST_F(HXBrowserSearchTest, SurvivesItsDeletionByItsOwner) {
   const HXObjectGuard guard(search);
   owner.onChange = [&](int) {

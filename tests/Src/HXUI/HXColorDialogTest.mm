@@ -9,6 +9,7 @@
 #include "Src/HXUI/HXTextBox.h"
 #include "Src/HXUI/KeyCode.h"
 #include "tests/Src/HXUI/ControlTestHelpers.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -158,10 +159,28 @@ TEST_F(HXColorDialogTest, DrawsTheSwatchesTheFrameAndTheMarkers) {
   EXPECT_EQ(CountOther(*pixels, {371, 158, 1, 20}, frame), 0);
   // The hue marker is two black lines across the bar, here at its top.
   EXPECT_EQ(pixels->At(275, 11), kBlack);
-  EXPECT_NE(pixels->At(275, 8), kBlack);
+  // The bar is seen between them.
+  EXPECT_TRUE(IsNear(pixels->At(275, 8), kRed, 12));
   // The ring in the square's corner is black on a bright colour.
   EXPECT_EQ(pixels->At(257, 7), kBlack);
   EXPECT_NE(pixels->At(262, 7), kBlack);
+}
+
+TEST_F(HXColorDialogTest, TheFieldsHaveWhiteLabelsInVerdanaOfTenPoints) {
+  const HXSize size = dialog->GetSize();
+  const auto drawn = Draw(*dialog);
+  PaintedPanel expected(window.get(), size, [&](HXCocoaDC& dc) {
+    dc.SetFillColor(dialog->GetColor());
+    dc.DrawRect({0, 0, size.width, size.height});
+    dc.SetFont("Verdana", 0, 10);
+    dc.SetTextColor(kWhite);
+    dc.DrawText("R:", {310, 92, 0, 0}, 0);
+    dc.DrawText("G:", {310, 112, 0, 0}, 0);
+    dc.DrawText("B:", {310, 132, 0, 0}, 0);
+    dc.DrawText("#", {308, 160, 0, 0}, 0);
+  });
+  // From below the swatches to above the buttons, left of the hex entry's frame.
+  EXPECT_EQ(CountUnlike(*drawn, *Draw(expected), {300, 80, 18, 105}), 0);
 }
 
 TEST_F(HXColorDialogTest, TheRingIsWhiteOnDarkColours) {

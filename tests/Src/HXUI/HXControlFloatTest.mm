@@ -146,6 +146,14 @@ TEST_F(HXControlFloatTest, WhileEditingItIsABlackFrame) {
   EXPECT_EQ(CountOther(*pixels, {1, 1, 38, 1}, {0, 0, 0, 255}), 0);
 }
 
+TEST_F(HXControlFloatTest, WhileEditingNothingOfItsParentShowsThrough) {
+  auto* parent = new HXPanel(window.get(), {0, 0}, {60, 30});
+  parent->SetColor(kWhite);
+  HXControlFloat child(parent, {10, 10}, &number, 0, 0, 100, 1);
+  child.BeginEdit();
+  EXPECT_EQ(CountOther(*Draw(*parent), {11, 11, 38, 1}, {0, 0, 0, 255}), 0);
+}
+
 TEST_F(HXControlFloatTest, TellsAParentThatListensOfEachFitting) {
   auto* row = new CountingParent(window.get());
   auto* child = new HXControlFloat(row, {0, 0}, &number, 0, 0, 0, 1);

@@ -97,6 +97,19 @@ TEST_F(HXMenuTest, PopupOpensTenPixelsIntoTheOwnerFromThePoint) {
   EXPECT_TRUE(driver.wasOpen);
 }
 
+TEST_F(HXMenuTest, NoItemHasAPictureBesideItsText) {
+  HXMenu menu(owner);
+  menu.AddItem(10, "One", false, true);
+  menu.AddItem(20, "Two", false, true);
+  MenuDriver driver(0);
+  std::vector<NSImage*> pictures;
+  driver.whenOpen = [&] {
+    for (NSInteger i = 0; i < 2; ++i) pictures.push_back([ItemAt(menu, i) image]);
+  };
+  menu.Popup({0, 0});
+  EXPECT_EQ(pictures, (std::vector<NSImage*>{nil, nil}));
+}
+
 TEST_F(HXMenuTest, ClosingWithoutAChoiceGivesZero) {
   HXMenu menu(owner);
   menu.AddItem(10, "One", false, true);

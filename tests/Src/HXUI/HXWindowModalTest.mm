@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Src/HXUI/Cocoa/HXCocoaTimer.h"
+#include "Src/HXUI/Cocoa/NativeWindow.h"
 #include "Src/HXUI/HXWindow.h"
 #include "tests/Src/HXUI/RecordingPanel.h"
 #include "tests/Src/HXUI/RecordingSink.h"
@@ -91,23 +92,31 @@ class HXWindowModalTest : public ToolkitFixture {
                           clickCount:1
                             pressure:1]);
   }
+  /// Runs the dialog: the window that the window manager keeps it in front of, or 0.
+  static Window OwnerDuringRun(RecordingWindow& dialog) {
+    Window owner = 0;
+    Later([&] {
+      Display* display = XOpenDisplay(nullptr);
+      XGetTransientForHint(display, reinterpret_cast<Window>([Native(dialog) windowRef]), &owner);
+      XCloseDisplay(display);
+      dialog.Close();
+    });
+    dialog.RunModal();
+    return owner;
+  }
 };
 
 TEST_F(HXWindowModalTest, TheWindowManagerKeepsItInFrontOfItsOwner) {
   auto* widget = new RecordingPanel(window.get(), {0, 0}, {10, 10});
   for (HXObject* owner : std::initializer_list<HXObject*>{window.get(), widget}) {
     RecordingWindow dialog(owner);
-    Window inFrontOf = 0;
-    Later([&] {
-      Display* display = XOpenDisplay(nullptr);
-      XGetTransientForHint(display, reinterpret_cast<Window>([Native(dialog) windowRef]),
-                           &inFrontOf);
-      XCloseDisplay(display);
-      dialog.Close();
-    });
-    dialog.RunModal();
-    EXPECT_EQ(inFrontOf, reinterpret_cast<Window>([Native(*window) windowRef]));
+    EXPECT_EQ(OwnerDuringRun(dialog), reinterpret_cast<Window>([Native(*window) windowRef]));
   }
+}
+
+TEST_F(HXWindowModalTest, WithoutAnOwnerItIsKeptInFrontOfNoWindow) {
+  RecordingWindow dialog;
+  EXPECT_EQ(OwnerDuringRun(dialog), 0U);
 }
 
 TEST_F(HXWindowModalTest, CloseButtonEndsTheRunWithOne) {
@@ -449,6 +458,17 @@ TEST_F(HXWindowModalTest, OtherWindowsAreDeafUnlessTheyWorkWhenModal) {
   EXPECT_THAT(dialog.kinds, ::testing::Contains(kRightDown));
   EXPECT_THAT(usable.kinds, ::testing::Contains(kRightDown));
   EXPECT_THAT(deaf.kinds, ::testing::Not(::testing::Contains(kRightDown)));
+}
+
+TEST_F(HXWindowModalTest, ASessionIsStoppedOnlyWhileItIsTheInnermost) {
+  const RecordingWindow dialog(window.get());
+  void* session = NativeWindow::BeginModal(Native(dialog), nil);
+  NativeWindow::StopModal(Native(*window));
+  NativeWindow::StopModal(nil);
+  EXPECT_TRUE(NativeWindow::ServeModalEvents(session));
+  NativeWindow::StopModal(Native(dialog));
+  EXPECT_FALSE(NativeWindow::ServeModalEvents(session));
+  NativeWindow::EndModal(session);
 }
 
 }  // namespace

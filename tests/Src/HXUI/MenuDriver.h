@@ -31,9 +31,9 @@ class MenuDriver {
   /// Run once while the menu is open, before anything is clicked.
   std::function<void()> whenOpen;
 
-  /// When set, nothing is clicked before the menu's top left corner lies within
-  /// a pixel of this point in screen coordinates (y upward). The platform tells
-  /// where a new window is only after some events.
+  /// When set, nothing is clicked before the first item's top left corner lies
+  /// on this point in screen coordinates (y upward). The platform tells where a
+  /// new window is only after some events.
   std::optional<HXPoint> expectedTopLeft;
 
   /// Called by the timer.

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "Src/HXUI/Cocoa/Conversions.h"
 #import "tests/Src/HXUI/PlatformInput.h"
 
@@ -110,9 +108,9 @@ void MenuDriver::Record(NSMenuView* view) {
 
 bool MenuDriver::StandsWhereExpected(NSMenuView* view) const {
   if (!expectedTopLeft) return true;
-  const NSRect frame = [[view window] frame];
-  return std::fabs(NSMinX(frame) - expectedTopLeft->x) <= 1 &&
-         std::fabs(NSMaxY(frame) - expectedTopLeft->y) <= 1;
+  const NSRect item = [view convertRect:[view rectOfItemAtIndex:0] toView:nil];
+  const NSPoint corner = NSMakePoint(NSMinX(item), NSMaxY(item));
+  return FromNative([[view window] convertBaseToScreen:corner]) == *expectedTopLeft;
 }
 
 void MenuDriver::ClickWhenReached(NSMenuView* view, NSInteger wanted) {
