@@ -87,10 +87,13 @@ TEST_F(ApplicationStartTest, AnEventInTheQueueEndsAWaitOnce) {
     [loop runMode:NSDefaultRunLoopMode beforeDate:until];
   } while ([until timeIntervalSinceNow] > 0);
 
-  PostEvent();
-  until = [NSDate dateWithTimeIntervalSinceNow:20];
-  [loop runMode:NSDefaultRunLoopMode beforeDate:until];
-  EXPECT_GT([until timeIntervalSinceNow], 0) << "it waited although there was an event";
+  // A single wait may happen to be ended by something else.
+  for (int event = 0; event < 3; ++event) {
+    PostEvent();
+    until = [NSDate dateWithTimeIntervalSinceNow:20];
+    [loop runMode:NSDefaultRunLoopMode beforeDate:until];
+    EXPECT_GT([until timeIntervalSinceNow], 10) << "it waited although there was an event";
+  }
   // Once noticed, the event may lie there without keeping the processor busy.
   int waits = 0;
   until = [NSDate dateWithTimeIntervalSinceNow:0.1];
@@ -99,7 +102,7 @@ TEST_F(ApplicationStartTest, AnEventInTheQueueEndsAWaitOnce) {
     ++waits;
   }
   EXPECT_LT(waits, 50);
-  EXPECT_NE(NextEvent([NSDate distantFuture]), nil);
+  for (int event = 0; event < 3; ++event) EXPECT_NE(NextEvent([NSDate distantFuture]), nil);
 }
 
 }  // namespace

@@ -1,6 +1,10 @@
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
 namespace {
 
 // The application of these tests was made by it.
@@ -22,6 +26,23 @@ TEST(SharedApplicationTest, FilesOfOtherFormatsCanBeReadAfterwards) {
   EXPECT_EQ([image size].width, 2);
   EXPECT_EQ([image size].height, 1);
   [pool drain];
+}
+
+/// How many of ImageMagick's decoders this program loads when it is started for one test.
+int CountDecodersLoadedFor(const std::string& test) {
+  const std::string program = std::filesystem::read_symlink("/proc/self/exe");
+  const std::string command = "env LD_DEBUG=files '" + program + "' --gtest_filter='" + test +
+                              "' 2>&1 | grep -c 'ImageMagick.*/coders/.*generating link map'";
+  FILE* output = popen(command.c_str(), "r");
+  int count = -1;
+  EXPECT_EQ(std::fscanf(output, "%d", &count), 1);
+  pclose(output);
+  return count;
+}
+
+TEST(SharedApplicationTest, StartAndMenusLoadNoDecoders) {
+  EXPECT_EQ(CountDecodersLoadedFor("SharedApplicationTest.ThePlatforms*"), 0);
+  EXPECT_GT(CountDecodersLoadedFor("SharedApplicationTest.FilesOf*"), 0);
 }
 #endif
 
