@@ -2,6 +2,17 @@
 
 #include <algorithm>
 
+namespace {
+
+/// In degrees, from 60 to 420: the distance from the two other channels to the highest one.
+float UnwrappedHue(HXRgb rgb, float highest, float delta) {
+  if (rgb.red == highest) return (rgb.green - rgb.blue) * 60.0F / delta + 360.0F;
+  if (rgb.green == highest) return (rgb.blue - rgb.red) * 60.0F / delta + 120.0F;
+  return (rgb.red - rgb.green) * 60.0F / delta + 240.0F;
+}
+
+}  // namespace
+
 HXRgb ToRgb(HXHsv hsv) {
   const float sector = hsv.hue / 60.0F;
   const int whole = static_cast<int>(sector);
@@ -34,15 +45,6 @@ HXHsv ToHsv(HXRgb rgb) {
   const float saturation = highest < kSmall ? 0.0F : delta / highest;
   if (delta < kSmall) return {0, saturation, highest};
 
-  float hue = 0;
-  if (rgb.red == highest) {
-    hue = (rgb.green - rgb.blue) * 60.0F / delta + 360.0F;
-  } else if (rgb.green == highest) {
-    hue = (rgb.blue - rgb.red) * 60.0F / delta + 120.0F;
-  } else {
-    hue = (rgb.red - rgb.green) * 60.0F / delta + 240.0F;
-  }
-  if (hue < 0) hue += 360.0F;
-  if (hue > 360.0F) hue -= 360.0F;
-  return {hue, saturation, highest};
+  const float hue = UnwrappedHue(rgb, highest, delta);
+  return {hue > 360.0F ? hue - 360.0F : hue, saturation, highest};
 }

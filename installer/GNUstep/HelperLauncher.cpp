@@ -6,10 +6,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <climits>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace {
@@ -33,7 +33,8 @@ bool ArrangeDescriptors(int ownEnd, int socket) {
   const int moved = ::fcntl(socket, F_DUPFD, STDERR_FILENO + 1);
   ::close(ownEnd);
   ::close(socket);
-  if (moved < 0 || ::dup2(moved, STDIN_FILENO) < 0) {
+  // Fails as well when `moved` is none.
+  if (::dup2(moved, STDIN_FILENO) < 0) {
     return false;
   }
   HelperDescriptor::CloseAllFrom(STDERR_FILENO + 1);
@@ -76,11 +77,8 @@ bool CanRun(const std::string& path) {
 
 // Empty when the system does not tell.
 std::string FolderOfThisProgram() {
-  std::string path(PATH_MAX, '\0');
-  const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
-  path.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
-  path.resize(std::min(path.rfind('/'), path.size()));
-  return path;
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
 }
 
 }  // namespace
