@@ -32,6 +32,7 @@ struct Shared {
   std::atomic<bool> ranBeforeDeletion{false};
   std::atomic<int> releases{0};
   std::atomic<int> releasesInDestructor{-1};
+  std::atomic<int> releasesAtTheEnd{-1};
 };
 
 class TestThread : public HXThread {
@@ -53,8 +54,10 @@ class TestThread : public HXThread {
     shared.ran = true;
   }
 
- private:
+ protected:
   Shared& shared;
+
+ private:
   HXObject* widget;
 };
 
@@ -95,6 +98,32 @@ TEST_F(HXThreadTest, JoinWaitsForTheEnd) {
   EXPECT_TRUE(shared.deleted);
   EXPECT_EQ(shared.releases, 1);
   opener.join();
+}
+
+/// Notes, when its thread ends, how many objects had been released by then.
+struct EndOfThread {
+  ~EndOfThread() {
+    if (shared != nullptr) shared->releasesAtTheEnd = shared->releases.load();
+  }
+  Shared* shared = nullptr;
+};
+
+class NotingThread : public TestThread {
+ public:
+  using TestThread::TestThread;
+
+  void Run() override {
+    thread_local EndOfThread end;
+    end.shared = &shared;
+    TestThread::Run();
+  }
+};
+
+TEST_F(HXThreadTest, ItsPoolIsDrainedBeforeTheThreadEnds) {
+  Shared shared;
+  (new NotingThread(shared))->Start();
+  PumpUntil([&] { return shared.releasesAtTheEnd.load() >= 0; }, "the thread to end");
+  EXPECT_EQ(shared.releasesAtTheEnd, 1);
 }
 
 TEST_F(HXThreadTest, ThreadsRunSideBySide) {

@@ -413,6 +413,26 @@ TEST_F(HXWindowModalTest, WindowMayBeDeletedInADialogThatItsOwnButtonRuns) {
   EXPECT_TRUE(aliveForItsEvent) << "the platform window is still serving the click";
 }
 
+TEST_F(HXWindowModalTest, WindowOutlivesTheEventThatDeletesIt) {
+  auto owned = std::make_unique<RecordingWindow>();
+  auto* button = new RecordingPanel(owned.get(), {10, 10}, {50, 20});
+  owned->SetVisible(true);
+  PumpUntil([&] { return owned->IsKeyWindow(); }, "the window to become key");
+  NSWindow* const native = Native(*owned);
+  bool aliveForItsEvent = false;
+  RecordingOwner owner;
+  button->SetHook(&owner, &RecordingOwner::OnEvent, 1);
+  owner.action = [&] {
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    owned.reset();
+    [pool drain];
+    aliveForItsEvent = [[NSApp windows] indexOfObjectIdenticalTo:native] != NSNotFound;
+  };
+  SendMouse(NSLeftMouseDown, *button, {5, 5});
+  EXPECT_EQ(owned, nullptr);
+  EXPECT_TRUE(aliveForItsEvent);
+}
+
 TEST_F(HXWindowModalTest, EscapeThatNobodyHasAskedForDoesNotEndTheRun) {
   RecordingWindow dialog(window.get());
   bool stillRunning = false;
