@@ -2,7 +2,10 @@
 
 #include <cctype>
 #include <cstddef>
+#include <optional>
 #include <string_view>
+
+#include "Src/HXUI/RtfWords.h"
 
 namespace {
 
@@ -67,25 +70,11 @@ bool IsUsual(std::string_view afterWord) {
 }  // namespace
 
 std::string RtfFields::DisarmUnusual(const std::string& rtf) {
-  constexpr std::string_view kField = "field";
-  const std::string_view text = rtf;
-  std::string copy;
-  std::size_t position = 0;
-  while (position < text.size()) {
-    if (text[position] != '\\') {
-      copy += text[position++];
-      continue;
-    }
-    std::size_t end = position + 1;
-    while (end < text.size() && IsLetter(text[end])) ++end;
-    if (text.substr(position + 1, end - position - 1) == kField && !IsUsual(text.substr(end))) {
-      copy += kUnknownWord;
-    } else {
-      // A backslash that is no word's belongs to the character after it.
-      if (end == position + 1 && end < text.size()) ++end;
-      copy += text.substr(position, end - position);
-    }
-    position = end;
-  }
-  return copy;
+  return RtfWords::Replace(rtf,
+                           [](std::string_view word, std::string_view number,
+                              std::string_view after) -> std::optional<std::string> {
+                             if (word != "field") return std::nullopt;
+                             if (number.empty() && IsUsual(after)) return std::nullopt;
+                             return std::string(kUnknownWord) + std::string(number);
+                           });
 }

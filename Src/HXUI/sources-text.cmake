@@ -3,7 +3,9 @@ set(HXUI_TEXT_SOURCES
   HXTextBox.cpp
   HXTextControl.cpp
   RtfFields.cpp
+  RtfFontSizes.cpp
   RtfFontTable.cpp
+  RtfWords.cpp
   Cocoa/Clipboard.mm
   Cocoa/CursorShape.mm
   Cocoa/FilePanels.mm

@@ -53,6 +53,27 @@ class BadInputTest : public RunnerTest {
     return status;
   }
 
+  /// A run for each step at which something else can take the first host's place; the other
+  /// host and the data must not suffer from it.
+  void ReplaceTheFirstHost(const std::function<void()>& replace,
+                           const std::function<void()>& look) {
+    for (int step = 0; step <= kCopy + 1; ++step) {
+      SCOPED_TRACE(step);
+      Reset();
+      const std::string away = machine.Path("away");
+      const auto change = [&] {
+        std::filesystem::rename(hosts[0], away);
+        replace();
+      };
+      EXPECT_EQ(RunAndChange(step, change), 0);
+      look();
+      EXPECT_TRUE(IsInstalled(hosts[1]));
+      ExpectDataMoved();
+      std::filesystem::remove(hosts[0]);
+      std::filesystem::rename(away, hosts[0]);
+    }
+  }
+
   void SeeThroughTheGate() {
     See([this] { return gate.Arrange(); });
   }
@@ -195,44 +216,18 @@ TEST_F(BadInputTest, AFileInThePlaceOfTheDataStaysAndSoDoTheData) {
 
 TEST_F(BadInputTest, AFolderReplacedByAFileOnTheWayLeavesTheFile) {
   SeeThroughTheGate();
-  for (int step = 0; step <= kCopy + 1; ++step) {
-    SCOPED_TRACE(step);
-    Reset();
-    const std::string away = machine.Path("away");
-    EXPECT_EQ(RunAndChange(step,
-                           [&] {
-                             std::filesystem::rename(hosts[0], away);
-                             std::ofstream(hosts[0]) << "precious";
-                           }),
-              0);
-    EXPECT_EQ(ReadWholeFile(hosts[0]), "precious");
-    EXPECT_TRUE(IsInstalled(hosts[1]));
-    ExpectDataMoved();
-    std::filesystem::remove(hosts[0]);
-    std::filesystem::rename(away, hosts[0]);
-  }
+  ReplaceTheFirstHost([this] { std::ofstream(hosts[0]) << "precious"; },
+                      [this] { EXPECT_EQ(ReadWholeFile(hosts[0]), "precious"); });
 }
 
 TEST_F(BadInputTest, AFolderReplacedByALinkOnTheWayLeavesWhatTheLinkLeadsTo) {
   SeeThroughTheGate();
   const std::string precious = MakePrecious();
-  for (int step = 0; step <= kCopy + 1; ++step) {
-    SCOPED_TRACE(step);
-    Reset();
-    const std::string away = machine.Path("away");
-    EXPECT_EQ(RunAndChange(step,
-                           [&] {
-                             std::filesystem::rename(hosts[0], away);
-                             std::filesystem::create_symlink(precious, hosts[0]);
-                           }),
-              0);
-    ExpectPrecious();
-    EXPECT_TRUE(IsInstalled(hosts[1]));
-    ExpectDataMoved();
-    std::filesystem::remove(hosts[0]);
-    std::filesystem::rename(away, hosts[0]);
-    std::filesystem::remove_all(precious + "/Halvorix");
-  }
+  ReplaceTheFirstHost([&] { std::filesystem::create_symlink(precious, hosts[0]); },
+                      [&] {
+                        ExpectPrecious();
+                        std::filesystem::remove_all(precious + "/Halvorix");
+                      });
 }
 
 TEST_F(BadInputTest, ALinkPutInTheBundlesPlaceOnTheWayLeavesWhatItLeadsTo) {

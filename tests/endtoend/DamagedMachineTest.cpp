@@ -20,15 +20,6 @@ class DamagedMachineTest : public EndToEndTest {
     EXPECT_EQ(Wizard::RowIn(picture, hosts + 1), Row::kAbsent);
   }
 
-  void InstallToTheFinish() {
-    wizard.Click(Wizard::kNext);
-    ASSERT_TRUE(wizard.IsOn(Page::kSummary));
-    wizard.Click(Wizard::kNext);
-    ASSERT_TRUE(wizard.IsOn(Page::kFinish));
-    wizard.Click(Wizard::kCancel);
-    ASSERT_TRUE(Ends());
-  }
-
   std::string PreferenceFile() const {
     return machine.Path("Library/Preferences/com.Adobe.After Effects.paths.plist");
   }

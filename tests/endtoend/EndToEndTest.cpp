@@ -47,6 +47,15 @@ testing::AssertionResult EndToEndTest::StartOn(Page page) {
   return wizard.GoTo(page);
 }
 
+void EndToEndTest::InstallToTheFinish() {
+  wizard.Click(Wizard::kNext);
+  ASSERT_TRUE(wizard.IsOn(Wizard::Page::kSummary));
+  wizard.Click(Wizard::kNext);
+  ASSERT_TRUE(wizard.IsOn(Wizard::Page::kFinish));
+  wizard.Click(Wizard::kCancel);
+  ASSERT_TRUE(Ends());
+}
+
 testing::AssertionResult EndToEndTest::Ends(int status) {
   const int seen = application->WaitForEnd();
   if (seen != status) {

@@ -41,6 +41,8 @@ class EndToEndTest : public testing::Test {
   testing::AssertionResult StartOn(Page page);
   MessageBox Box(const char* title) { return MessageBox(desktop, pointer, title); }
 
+  /// From the hosts on, through the installation and out; use it in ASSERT_NO_FATAL_FAILURE.
+  void InstallToTheFinish();
   /// Waits for the end; it has to come with `status`, and nothing may be left running.
   testing::AssertionResult Ends(int status = 0);
   /// The installation of row `row` of a furnished machine is there, whole, and the only thing.

@@ -78,15 +78,6 @@ class HostChoiceTest : public EndToEndTest {
     ASSERT_TRUE(WaitUntil([this] { return ShowsAPath(); }));
   }
 
-  void GoOnToTheEnd() {
-    wizard.Click(Wizard::kNext);
-    ASSERT_TRUE(wizard.IsOn(Page::kSummary));
-    wizard.Click(Wizard::kNext);
-    ASSERT_TRUE(wizard.IsOn(Page::kFinish));
-    wizard.Click(Wizard::kCancel);
-    ASSERT_TRUE(Ends());
-  }
-
   void ExpectNoHostTouched() const {
     for (int row = 0; row < Machine::kHostCount; ++row) {
       EXPECT_TRUE(std::filesystem::is_empty(machine.PluginFolder(row)));
@@ -120,7 +111,7 @@ TEST_F(HostChoiceTest, NothingChosenIsToldAndTheHostsStay) {
 
   // The wizard still works.
   ASSERT_TRUE(wizard.Toggle(2));
-  ASSERT_NO_FATAL_FAILURE(GoOnToTheEnd());
+  ASSERT_NO_FATAL_FAILURE(InstallToTheFinish());
   EXPECT_TRUE(IsInstalled(machine.PluginFolder(2)));
 }
 
@@ -140,7 +131,7 @@ TEST_F(HostChoiceTest, InstallsIntoAFolderChosenWithTheKeyboard) {
   ASSERT_NO_FATAL_FAILURE(StartWithNoneTicked());
   ASSERT_NO_FATAL_FAILURE(TickCustom());
   ASSERT_NO_FATAL_FAILURE(ChooseByKeyboard());
-  ASSERT_NO_FATAL_FAILURE(GoOnToTheEnd());
+  ASSERT_NO_FATAL_FAILURE(InstallToTheFinish());
   EXPECT_TRUE(IsInstalled(custom));
   ExpectNoHostTouched();
   EXPECT_TRUE(IsDataMoved());
@@ -150,7 +141,7 @@ TEST_F(HostChoiceTest, InstallsIntoAFolderChosenWithTheMouse) {
   ASSERT_TRUE(StartOn(Page::kHosts));
   ASSERT_NO_FATAL_FAILURE(TickCustom());
   ASSERT_NO_FATAL_FAILURE(ChooseByMouse());
-  ASSERT_NO_FATAL_FAILURE(GoOnToTheEnd());
+  ASSERT_NO_FATAL_FAILURE(InstallToTheFinish());
   EXPECT_TRUE(IsInstalled(custom));
   EXPECT_TRUE(IsInstalled(machine.PluginFolder(0)));
   EXPECT_TRUE(IsInstalled(machine.PluginFolder(3)));
@@ -176,7 +167,7 @@ TEST_F(HostChoiceTest, UntickedCustomKeepsItsFolderAndInstallsNothingThere) {
   ASSERT_TRUE(wizard.Toggle(kCustom));
   EXPECT_TRUE(wizard.Shows(Wizard::CustomPath(kCustom), path));
   ASSERT_TRUE(wizard.Toggle(kCustom));
-  ASSERT_NO_FATAL_FAILURE(GoOnToTheEnd());
+  ASSERT_NO_FATAL_FAILURE(InstallToTheFinish());
   EXPECT_TRUE(std::filesystem::is_empty(custom));
   EXPECT_TRUE(IsInstalled(machine.PluginFolder(0)));
 }

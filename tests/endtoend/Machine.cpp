@@ -28,7 +28,7 @@ Machine::Machine() : path(folder.Path("Été Mac")) {
 std::string Machine::Script(std::vector<std::string> words) const {
   words.insert(words.begin(), {"sh", OSTREL_MACHINE_SCRIPT});
   words.insert(words.begin() + 3, path);
-  return RunCommand(words, {"TMPDIR=" + TemporaryFiles()});
+  return RunCommand(words, TemporaryVariables());
 }
 
 void Machine::AddHost(const std::string& name, const std::string& version,
@@ -105,10 +105,13 @@ std::vector<std::string> Machine::ReadEnvironment() const {
   std::vector<std::string> words;
   std::istringstream lines(Script({"environment"}));
   for (std::string line; std::getline(lines, line);) words.push_back(line);
-  for (const char* name : {"TMP=", "TEMP=", "TMPDIR="}) {
-    words.push_back(name + TemporaryFiles());
-  }
+  for (std::string& variable : TemporaryVariables()) words.push_back(std::move(variable));
   return words;
+}
+
+std::vector<std::string> Machine::TemporaryVariables() const {
+  const std::string files = TemporaryFiles();
+  return {"TMP=" + files, "TEMP=" + files, "TMPDIR=" + files};
 }
 
 Tree Machine::InstalledTree(const std::string& plugin) const {

@@ -59,6 +59,8 @@ class Machine {
  private:
   std::string Script(std::vector<std::string> words) const;
   std::vector<std::string> ReadEnvironment() const;
+  /// Where whatever is started for the machine keeps its temporary files.
+  std::vector<std::string> TemporaryVariables() const;
   std::string InstallerFolder() const { return Path("Downloads"); }
 
   TemporaryFolder folder;

@@ -2,7 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
@@ -11,6 +10,7 @@
 #import "Src/HXUI/Cocoa/HXTextField.h"
 #include "Src/HXUI/HXTextControl.h"
 #include "Src/HXUI/RtfFields.h"
+#include "Src/HXUI/RtfFontSizes.h"
 #include "Src/HXUI/RtfFontTable.h"
 
 namespace {
@@ -62,55 +62,19 @@ std::string InstalledFamily(const std::string& family) {
   return wanted == nil ? std::string() : FromNative(FontLookup::InstalledFamily(wanted));
 }
 
-/// Without fonts of no size or of an absurd one, which cannot be laid out.
-void BoundFontSizes(NSMutableAttributedString* text) {
-  constexpr CGFloat kSmallest = 1;
-  constexpr CGFloat kLargest = 1638;
-  NSRange range = NSMakeRange(0, 0);
-  while (NSMaxRange(range) < [text length]) {
-    NSFont* font = [text attribute:NSFontAttributeName
-                           atIndex:NSMaxRange(range)
-                    effectiveRange:&range];
-    const CGFloat size = std::clamp([font pointSize], kSmallest, kLargest);
-    if (font == nil || size == [font pointSize]) continue;
-    NSFont* bounded = [[NSFontManager sharedFontManager] convertFont:font
-                                                              toSize:static_cast<float>(size)];
-    [text addAttribute:NSFontAttributeName value:bounded range:range];
-  }
-}
-
-/// With a paragraph style everywhere: GNUstep takes the one of a paragraph's first
-/// letter for all of it, and falls over when that has none.
-void CompleteParagraphStyles(NSMutableAttributedString* text) {
-  NSRange range = NSMakeRange(0, 0);
-  while (NSMaxRange(range) < [text length]) {
-    NSParagraphStyle* style = [text attribute:NSParagraphStyleAttributeName
-                                      atIndex:NSMaxRange(range)
-                               effectiveRange:&range];
-    if (style != nil) continue;
-    [text addAttribute:NSParagraphStyleAttributeName
-                 value:[NSParagraphStyle defaultParagraphStyle]
-                 range:range];
-  }
-}
-
 /// Autoreleased; empty when the bytes are no RTF.
 NSAttributedString* ParseRtf(const std::string& rtf) {
   // GNUstep drops bold and italic along with a family that is not there.
-  const std::string document =
-      RtfFields::DisarmUnusual(RtfFontTable::ReplaceFamilies(rtf, InstalledFamily));
+  const std::string families = RtfFontTable::ReplaceFamilies(rtf, InstalledFamily);
+  const std::string document = RtfFontSizes::Bound(RtfFields::DisarmUnusual(families));
   NSData* data = [NSData dataWithBytes:document.data() length:document.size()];
-  NSMutableAttributedString* text = nil;
+  NSAttributedString* text = nil;
   @try {
-    text = [[[NSMutableAttributedString alloc] initWithRTF:data
-                                        documentAttributes:NULL] autorelease];
+    text = [[[NSAttributedString alloc] initWithRTF:data documentAttributes:NULL] autorelease];
   } @catch (NSException* exception) {
     NSLog(@"Rich text could not be read: %@", [exception reason]);
   }
-  if (text == nil) return [[[NSAttributedString alloc] init] autorelease];
-  BoundFontSizes(text);
-  CompleteParagraphStyles(text);
-  return text;
+  return text != nil ? text : [[[NSAttributedString alloc] init] autorelease];
 }
 
 /// Of all of the text, rounded up.

@@ -10,5 +10,7 @@ set(HXUI_TEXT_TESTS
   HXTextFieldTest.mm
   KeyStateTest.mm
   RtfFieldsTest.cpp
+  RtfFontSizesTest.cpp
+  RtfWordsTest.cpp
   RtfFontTableTest.cpp
   WorkspaceTest.mm)

@@ -78,14 +78,22 @@ bool DrawsFromTop(NSImage*) { return false; }
 // Before every drawing the platform goes through the image's representations for the best one,
 // which takes longer than the drawing.
 void DrawImage(NSImage* image, NSRect target, NSRect source) {
-  NSCachedImageRep* cache = OnlyCache(image);
-  id drawn = cache != nil ? static_cast<id>(cache) : static_cast<id>(image);
-  [drawn drawInRect:target
-            fromRect:source
-           operation:NSCompositeSourceOver
-            fraction:1.0
-      respectFlipped:YES
-               hints:nil];
+  constexpr NSCompositingOperation kOver = NSCompositeSourceOver;
+  if (NSCachedImageRep* cache = OnlyCache(image)) {
+    [cache drawInRect:target
+              fromRect:source
+             operation:kOver
+              fraction:1.0
+        respectFlipped:YES
+                 hints:nil];
+  } else {
+    [image drawInRect:target
+              fromRect:source
+             operation:kOver
+              fraction:1.0
+        respectFlipped:YES
+                 hints:nil];
+  }
 }
 
 // A graphics context on a bitmap can be made here, but draws nothing and crashes when flushed.
