@@ -1,7 +1,7 @@
 """Where in the product's sources a small fault can be planted, and what it would be."""
 
 import collections
-import random
+import hashlib
 import re
 
 # A folder of sources, and the program that tests it.
@@ -30,6 +30,8 @@ Fault = collections.namedtuple("Fault", "path line length kind before after")
 FILLED = re.compile(r"^\s*[\w:]+ (\w+) = \w+;$")
 
 CALL = re.compile(r"^(\s+)(?:\w+(?:->|\.|::))*\w+\(.*\);\s*$|^(\s+)\[.*\];\s*$")
+# The flags of a measurement, which change nothing (`HXCocoaDC::MeasureText`).
+MEASURING_FLAGS = re.compile(r"MeasureText\(.*, (\d+)\);$")
 # Fully transparent: nobody sees which colour it is.
 NO_COLOR = "{0, 0, 0, 0}"
 
@@ -63,8 +65,9 @@ def constants(line):
     """Each number becomes one larger."""
     if BUFFER.search(line) or "HXAssertFailed(" in line or NO_COLOR in line and "HXColor" in line:
         return
+    flags = MEASURING_FLAGS.search(line)
     for match in re.finditer(r"(?<![\w.\"])(\d+)(\.\d+)?F?(?![\w.\"'])", line):
-        if is_outside_texts(line, match.start()):
+        if is_outside_texts(line, match.start()) and not (flags and match.start() == flags.start(1)):
             digits = match.group(1)
             larger = str(int(digits) + 1) + match.group(0)[len(digits):]
             yield "constant", line[:match.start()] + larger + line[match.end():]
@@ -131,16 +134,22 @@ def all_faults(root):
     return found
 
 
+def order(seed, *words):
+    """As good as random, and the same whatever else is in the list that is sorted by it."""
+    return hashlib.sha256("\n".join([str(seed), *map(str, words)]).encode()).digest()
+
+
 def choose(found, count, seed):
     """`count` faults, in turn from every file, so that each class gets some; and what is
-    left of each file, to replace those that turn out to be no programs."""
-    generator = random.Random(seed)
-    left = {path: list(faults) for path, faults in found.items()}
-    for faults in left.values():
-        generator.shuffle(faults)
+    left of each file, to replace those that turn out to be no programs. A change of one
+    file changes the choice in the others by little or nothing."""
+    left = {path: sorted(faults, key=lambda each: order(seed, path, each.before, each.after))
+            for path, faults in found.items()}
     chosen = []
+    turn = 0
     while len(chosen) < count and any(left.values()):
-        for path in generator.sample(sorted(left), len(left)):
+        turn += 1
+        for path in sorted(left, key=lambda each: order(seed, turn, each)):
             if left[path] and len(chosen) < count:
                 chosen.append(left[path].pop())
     return sorted(chosen), left
