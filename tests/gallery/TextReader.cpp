@@ -13,7 +13,7 @@ constexpr int kBarBearing = 1;
 const std::array<std::string, 4> kLongLetters{"", "fi", "\u00E9", "\u00E0"};
 
 std::string Spell(char letter) {
-  const auto number = static_cast<std::size_t>(letter);
+  const auto number = static_cast<std::size_t>(static_cast<unsigned char>(letter));
   return number < kLongLetters.size() ? kLongLetters[number] : std::string(1, letter);
 }
 

@@ -71,20 +71,9 @@ class HXColorDialogTest : public ToolkitFixture {
 
   /// Through the application's queue, as real keys come.
   void Type(NSString* characters) {
-    NSWindow* native = [dialog->GetNativeView() window];
     for (NSUInteger i = 0; i < [characters length]; ++i) {
       NSString* one = [characters substringWithRange:NSMakeRange(i, 1)];
-      [NSApp postEvent:[NSEvent keyEventWithType:NSKeyDown
-                                              location:NSZeroPoint
-                                         modifierFlags:0
-                                             timestamp:0
-                                          windowNumber:[native windowNumber]
-                                               context:nil
-                                            characters:one
-                           charactersIgnoringModifiers:one
-                                             isARepeat:NO
-                                               keyCode:0]
-               atStart:NO];
+      [NSApp postEvent:KeyDownEvent(*dialog, one) atStart:NO];
       Pump();
     }
   }

@@ -24,17 +24,7 @@ class HXInputDialogTest : public ToolkitFixture {
   /// A key on its way through the application's queue, which makes it the
   /// current event, as the platform does.
   static void TypeKey(const HXInputDialog& dialog, NSString* characters) {
-    [NSApp postEvent:[NSEvent keyEventWithType:NSKeyDown
-                                            location:NSZeroPoint
-                                       modifierFlags:0
-                                           timestamp:0
-                                        windowNumber:[[dialog.GetNativeView() window] windowNumber]
-                                             context:nil
-                                          characters:characters
-                         charactersIgnoringModifiers:characters
-                                           isARepeat:NO
-                                             keyCode:0]
-             atStart:YES];
+    [NSApp postEvent:KeyDownEvent(dialog, characters) atStart:YES];
     [NSApp sendEvent:[NSApp nextEventMatchingMask:NSKeyDownMask
                                         untilDate:[NSDate distantPast]
                                            inMode:NSDefaultRunLoopMode

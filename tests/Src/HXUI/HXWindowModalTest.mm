@@ -64,18 +64,6 @@ class HXWindowModalTest : public ToolkitFixture {
   ~HXWindowModalTest() override { EXPECT_EQ([NSApp modalWindow], nil); }
   static NSWindow* Native(const HXWindow& of) { return [of.GetNativeView() window]; }
   static void PressCloseButton(const HXWindow& of) { [Native(of) performClose:nil]; }
-  NSEvent* Key(const HXWindow& of, NSString* characters) {
-    return [NSEvent keyEventWithType:NSKeyDown
-                            location:NSZeroPoint
-                       modifierFlags:0
-                           timestamp:0
-                        windowNumber:[Native(of) windowNumber]
-                             context:nil
-                          characters:characters
-         charactersIgnoringModifiers:characters
-                           isARepeat:NO
-                             keyCode:0];
-  }
   /// As if the platform had brought the event: a running wait for input ends.
   static void Post(NSEvent* event) {
     [NSApp postEvent:event atStart:NO];
@@ -255,7 +243,7 @@ TEST_F(HXWindowModalTest, DialogIsDrawnAndClickedInside) {
     if (owner.events.back() == kLeftUp) dialog.EndModal();
   };
   Later([&] {
-    Post(Key(dialog, @"x"));
+    Post(KeyDownEvent(dialog, @"x"));
     Click(*button, {5, 5});
   });
   dialog.RunModal();
@@ -438,8 +426,8 @@ TEST_F(HXWindowModalTest, EscapeThatNobodyHasAskedForDoesNotEndTheRun) {
   bool stillRunning = false;
   Later([&] {
     [Native(dialog) makeFirstResponder:nil];
-    Post(Key(dialog, @"\033"));
-    Post(Key(dialog, @"\r"));
+    Post(KeyDownEvent(dialog, @"\033"));
+    Post(KeyDownEvent(dialog, @"\r"));
     Later([&] {
       Later([&] {
         stillRunning = [NSApp modalWindow] == Native(dialog);
@@ -455,7 +443,7 @@ TEST_F(HXWindowModalTest, KeysReachTheDialogOnce) {
   RecordingWindow dialog(window.get());
   RecordingSink sink;
   dialog.onKey = [&] { dialog.EndModal(); };
-  Later([&] { Post(Key(dialog, @"\033")); });
+  Later([&] { Post(KeyDownEvent(dialog, @"\033")); });
   dialog.RunModal();
   EXPECT_THAT(dialog.keys, ElementsAre(27));
   EXPECT_EQ(sink.Count(kKeyDown), 1);
@@ -472,7 +460,7 @@ TEST_F(HXWindowModalTest, OtherWindowsAreDeafUnlessTheyWorkWhenModal) {
     for (RecordingWindow* each : {&deaf, &usable, &dialog}) {
       PostMouse(NSRightMouseDown, *each, NSMakePoint(20, 20));
     }
-    Post(Key(dialog, @"x"));
+    Post(KeyDownEvent(dialog, @"x"));
   });
   dialog.RunModal();
   EXPECT_THAT(dialog.kinds, ::testing::Contains(kRightDown));

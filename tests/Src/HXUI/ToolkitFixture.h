@@ -55,6 +55,8 @@ class ToolkitFixture : public ::testing::Test {
   void Click(HXObject& widget, HXPoint point);
   /// `deltaY` in lines, positive away from the user.
   void SendWheel(HXObject& widget, HXPoint point, double deltaY);
+  /// A key that goes down, to be posted or sent.
+  static NSEvent* KeyDownEvent(const HXWindow& target, NSString* characters);
   /// A key to the window's first responder.
   void SendKey(HXWindow& target, NSString* characters, NSUInteger modifiers = 0);
   void SendKeyUp(HXWindow& target, NSString* characters);

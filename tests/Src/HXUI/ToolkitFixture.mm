@@ -190,6 +190,10 @@ void ToolkitFixture::SendWheel(HXObject& widget, HXPoint point, double deltaY) {
   TurnWheel(widget.GetNativeView(), InWindow(widget, point), deltaY);
 }
 
+NSEvent* ToolkitFixture::KeyDownEvent(const HXWindow& target, NSString* characters) {
+  return KeyEvent(NSKeyDown, [target.GetNativeView() window], characters, 0);
+}
+
 void ToolkitFixture::SendKey(HXWindow& target, NSString* characters, NSUInteger modifiers) {
   NSWindow* native = [target.GetNativeView() window];
   [native sendEvent:KeyEvent(NSKeyDown, native, characters, modifiers)];
