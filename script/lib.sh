@@ -91,18 +91,16 @@ has_window_manager() {
   xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 0x
 }
 
-# start_display: an X server with a window manager that keep their notes in the session's
-# folder; sets DISPLAY, and display_processes to their ids. Arguments go to the server.
+# start_display: an X server with a window manager inside the session; sets DISPLAY.
+# Arguments go to the server.
 start_display() {
   unset DISPLAY XAUTHORITY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
   # The server picks a free number and says which.
   Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp "$@" 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
-  display_processes=$!
   wait_until 120 "the X server did not start; it says: $(tail -n 1 "$session/server.log" 2>/dev/null)" has_display_number
   DISPLAY=:$(cat "$session/display")
   export DISPLAY
   openbox --sm-disable >"$session/window-manager.log" 2>&1 </dev/null &
-  display_processes="$! $display_processes"
   wait_until 120 "the window manager did not start; it says: $(tail -n 1 "$session/window-manager.log" 2>/dev/null)" has_window_manager
 }
 
