@@ -91,8 +91,22 @@ has_window_manager() {
   xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 0x
 }
 
-# start_display: an X server with a window manager inside the session; sets DISPLAY.
-# Arguments go to the server.
+# Whether COUNT of GNUstep's daemons can be found by the programs of the session.
+has_daemons() {
+  [ "$(find "$session/tmp" -path '*/NSMessagePort/names/*' 2>/dev/null | wc -l)" -ge "$1" ]
+}
+
+# start_daemons: those that programs would start themselves. These would end with the last
+# program that uses them, even while the next one turns to them.
+start_daemons() {
+  gdnc --no-fork >"$session/gdnc.log" 2>&1 </dev/null &
+  wait_until 120 "gdnc did not start; it says: $(tail -n 1 "$session/gdnc.log" 2>/dev/null)" has_daemons 1
+  gpbs --no-fork >"$session/gpbs.log" 2>&1 </dev/null &
+  wait_until 120 "gpbs did not start; it says: $(tail -n 1 "$session/gpbs.log" 2>/dev/null)" has_daemons 2
+}
+
+# start_display: an X server with a window manager inside the session, and the daemons that
+# GNUstep's programs share there; sets DISPLAY. Arguments go to the server.
 start_display() {
   unset DISPLAY XAUTHORITY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
   # The server picks a free number and says which.
@@ -102,6 +116,7 @@ start_display() {
   export DISPLAY
   openbox --sm-disable >"$session/window-manager.log" 2>&1 </dev/null &
   wait_until 120 "the window manager did not start; it says: $(tail -n 1 "$session/window-manager.log" 2>/dev/null)" has_window_manager
+  start_daemons
 }
 
 # open_test_session FOLDER: a session with a display, and folders of its own for tests on a
