@@ -1,6 +1,7 @@
 #include "tests/endtoend/Application.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -50,6 +51,15 @@ std::string Application::WaitForTools() const {
     return names.empty();
   });
   return names;
+}
+
+testing::AssertionResult Application::KillDaemons(std::size_t count) const {
+  if (!WaitUntil([this, count] { return orphans.Daemons().size() >= count; })) {
+    return testing::AssertionFailure() << orphans.Daemons().size() << " daemons run";
+  }
+  for (const pid_t daemon : orphans.Daemons()) kill(daemon, SIGKILL);
+  if (WaitUntil([this] { return orphans.Daemons().empty(); })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "they do not end";
 }
 
 int Application::CountPipes() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -25,6 +27,9 @@ class Application {
   /// Waits until nothing started by the installer runs any more. Names what does,
   /// or returns "".
   std::string WaitForTools() const;
+  /// Waits until `count` of the platform's daemons run that the installer has started, and
+  /// ends them under it.
+  testing::AssertionResult KillDaemons(std::size_t count) const;
   void Send(int signal) { process.Send(signal); }
   void Kill() { process.Kill(); }
   pid_t Id() const { return process.Id(); }

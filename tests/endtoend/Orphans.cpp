@@ -64,6 +64,8 @@ std::vector<Child> ListRunning(const std::vector<pid_t>& others) {
   return running;
 }
 
+bool IsDaemon(const Child& child) { return child.name == "gdnc" || child.name == "gpbs"; }
+
 }  // namespace
 
 void Orphans::Adopt() { EXPECT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0); }
@@ -81,9 +83,17 @@ std::vector<pid_t> Orphans::List() const {
 std::vector<std::string> Orphans::NamesOfStrangers() const {
   std::vector<std::string> names;
   for (const Child& child : ListRunning(others)) {
-    if (child.name != "gdnc" && child.name != "gpbs") names.push_back(child.name);
+    if (!IsDaemon(child)) names.push_back(child.name);
   }
   return names;
+}
+
+std::vector<pid_t> Orphans::Daemons() const {
+  std::vector<pid_t> daemons;
+  for (const Child& child : ListRunning(others)) {
+    if (IsDaemon(child)) daemons.push_back(child.id);
+  }
+  return daemons;
 }
 
 void Orphans::Kill() const {

@@ -23,6 +23,8 @@ class Orphans {
   /// The names of those that are not GNUstep's own daemons, which stay for the
   /// next program of the session.
   std::vector<std::string> NamesOfStrangers() const;
+  /// GNUstep's own daemons among them.
+  std::vector<pid_t> Daemons() const;
   /// Ends all of them, and what they leave behind in turn.
   void Kill() const;
 

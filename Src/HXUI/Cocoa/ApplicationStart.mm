@@ -22,12 +22,14 @@
 
 namespace {
 
-/// Where AppKit would show more than these applications want: as defaults only,
-/// so that what the user has chosen still counts.
+/// Where AppKit would show more than these applications want, or take more to heart: GNUstep
+/// tells a daemon of the session which application is active, and throws out of whatever
+/// opens a window when that daemon has gone. As defaults only, so that what the user has
+/// chosen still counts.
 void RegisterDefaults() {
-  NSDictionary* defaults = [NSDictionary dictionaryWithObjectsAndKeys:@"YES", @"GSSuppressAppIcon",
-                                                                      @"NSMacintoshInterfaceStyle",
-                                                                      @"NSMenuInterfaceStyle", nil];
+  NSDictionary* defaults = [NSDictionary
+      dictionaryWithObjectsAndKeys:@"YES", @"GSSuppressAppIcon", @"NSMacintoshInterfaceStyle",
+                                   @"NSMenuInterfaceStyle", @"YES", @"GSLogWorkspaceTimeout", nil];
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }
 

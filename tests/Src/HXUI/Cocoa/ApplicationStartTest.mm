@@ -57,6 +57,7 @@ TEST_F(ApplicationStartTest, ItsWishesAreDefaultsOnly) {
   NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
   NSDictionary* registered = [defaults volatileDomainForName:NSRegistrationDomain];
   EXPECT_TRUE([[registered objectForKey:@"GSSuppressAppIcon"] boolValue]);
+  EXPECT_TRUE([[registered objectForKey:@"GSLogWorkspaceTimeout"] boolValue]);
   EXPECT_TRUE(
       [[registered objectForKey:@"NSMenuInterfaceStyle"] isEqual:@"NSMacintoshInterfaceStyle"]);
 }
