@@ -168,7 +168,7 @@ TEST_F(BadInputTest, AFileInThePlaceOfAnyFolderStays) {
 }
 
 TEST_F(BadInputTest, AFolderThatCannotBeWrittenLeavesTheOthersServed) {
-  See([this] { return MountView::MakeReadOnly(hosts[0]); });
+  ASSERT_NO_FATAL_FAILURE(See([this] { return MountView::MakeReadOnly(hosts[0]); }));
   EXPECT_EQ(Run(), 0);
   EXPECT_TRUE(std::filesystem::is_empty(view->Seen(hosts[0])));
   EXPECT_TRUE(IsInstalled(hosts[1]));
@@ -176,7 +176,8 @@ TEST_F(BadInputTest, AFolderThatCannotBeWrittenLeavesTheOthersServed) {
 }
 
 TEST_F(BadInputTest, AFullFolderLeavesTheOthersServedAndIsServedWhenThereIsRoom) {
-  See([this] { return MountView::MountEmpty(hosts[0], "mode=755,size=64k"); });
+  ASSERT_NO_FATAL_FAILURE(
+      See([this] { return MountView::MountEmpty(hosts[0], "mode=755,size=64k"); }));
   const std::string filler = view->Seen(hosts[0]) + "/filler";
   FillUp(filler);
   EXPECT_EQ(Run(), 0);
@@ -189,7 +190,7 @@ TEST_F(BadInputTest, AFullFolderLeavesTheOthersServedAndIsServedWhenThereIsRoom)
 
 TEST_F(BadInputTest, DataThatFindNoRoomStayWhereTheyAre) {
   const std::string support = std::filesystem::path(machine.MachineData()).parent_path();
-  See([&] { return MountView::MountEmpty(support, "mode=755,size=64k"); });
+  ASSERT_NO_FATAL_FAILURE(See([&] { return MountView::MountEmpty(support, "mode=755,size=64k"); }));
   AddData("Scenes/many", 40);
   for (int run = 0; run < 2; ++run) {
     EXPECT_EQ(Run(), 0);
@@ -200,7 +201,7 @@ TEST_F(BadInputTest, DataThatFindNoRoomStayWhereTheyAre) {
 
 TEST_F(BadInputTest, DataWhoseNewPlaceCannotBeWrittenStayWhereTheyAre) {
   const std::string support = std::filesystem::path(machine.MachineData()).parent_path();
-  See([&] { return MountView::MakeReadOnly(support); });
+  ASSERT_NO_FATAL_FAILURE(See([&] { return MountView::MakeReadOnly(support); }));
   EXPECT_EQ(Run(), 0);
   EXPECT_TRUE(HoldsData(machine.UserData()));
   EXPECT_FALSE(std::filesystem::exists(view->Seen(machine.MachineData())));

@@ -45,6 +45,7 @@ RunnerTest::RunnerTest()
 
 void RunnerTest::See(const std::function<bool()>& arrange) {
   view = std::make_unique<MountView>(arrange);
+  ASSERT_FALSE(HasFailure()) << "without the view nothing would come of waiting for runs in it";
 }
 
 std::unique_ptr<Application> RunnerTest::Start(const std::vector<std::string>& folders, int count,

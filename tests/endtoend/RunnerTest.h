@@ -17,7 +17,8 @@
 class RunnerTest : public testing::Test {
  protected:
   RunnerTest();
-  /// Makes the view; `arrange` says what is different in it.
+  /// Makes the view; `arrange` says what is different in it. In a constructor, or in
+  /// ASSERT_NO_FATAL_FAILURE.
   void See(const std::function<bool()>& arrange);
 
   /// Starts COUNT runs for these plug-in folders, one after another.

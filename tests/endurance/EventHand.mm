@@ -3,7 +3,8 @@
 #import <GNUstepGUI/GSDisplayServer.h>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
-#import "tests/Src/HXUI/WheelEvents.h"
+#import "tests/Src/HXUI/GNUstep/WheelEvent.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 
 namespace {
 
@@ -41,66 +42,19 @@ void EventHand::Point(const HXObject& widget, HXPoint point) {
 void EventHand::Mouse(NSEventType type, const HXObject& widget, HXPoint point, int clickCount,
                       NSUInteger modifiers) {
   NSWindow* window = [widget.GetNativeView() window];
-  const NSPoint location = InWindow(widget, point);
-  Deliver([NSEvent mouseEventWithType:type
-                             location:location
-                        modifierFlags:modifiers
-                            timestamp:0
-                         windowNumber:[window windowNumber]
-                              context:nil
-                          eventNumber:0
-                           clickCount:clickCount
-                             pressure:1]);
+  Deliver(MouseEvent(type, window, InWindow(widget, point), clickCount, modifiers));
 }
 
 void EventHand::Wheel(const HXObject& widget, HXPoint point, double deltaY) {
   NSWindow* window = [widget.GetNativeView() window];
-  const NSPoint location = InWindow(widget, point);
-  Deliver([NSEvent mouseEventWithType:NSScrollWheel
-                             location:location
-                        modifierFlags:0
-                            timestamp:0
-                         windowNumber:[window windowNumber]
-                              context:nil
-                          eventNumber:0
-                           clickCount:1
-                             pressure:0
-                         buttonNumber:0
-                               deltaX:0
-                               deltaY:deltaY
-                               deltaZ:0]);
+  Deliver(WheelEvent(window, InWindow(widget, point), deltaY));
 }
 
 void EventHand::Cross(NSEventType type, const HXObject& widget, HXPoint point) {
-  NSView* view = widget.GetNativeView();
-  const NSPoint location = InWindow(widget, point);
-  NSEvent* event = [NSEvent enterExitEventWithType:type
-                                          location:location
-                                     modifierFlags:0
-                                         timestamp:0
-                                      windowNumber:[[view window] windowNumber]
-                                           context:nil
-                                       eventNumber:0
-                                    trackingNumber:0
-                                          userData:nullptr];
-  // The platform hands these to the owner of the tracking rectangle.
-  if (type == NSMouseEntered) {
-    [view mouseEntered:event];
-  } else {
-    [view mouseExited:event];
-  }
+  CrossEdge(type, widget.GetNativeView(), InWindow(widget, point));
 }
 
 void EventHand::Key(NSEventType type, NSWindow* window, NSString* characters,
                     NSUInteger modifiers) {
-  Deliver([NSEvent keyEventWithType:type
-                           location:NSZeroPoint
-                      modifierFlags:modifiers
-                          timestamp:0
-                       windowNumber:[window windowNumber]
-                            context:nil
-                         characters:characters
-        charactersIgnoringModifiers:characters
-                          isARepeat:NO
-                            keyCode:0]);
+  Deliver(KeyEvent(type, window, characters, modifiers));
 }

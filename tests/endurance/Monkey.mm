@@ -6,6 +6,7 @@
 
 #import "Src/HXUI/Cocoa/HXView.h"
 #include "Src/HXUI/HXSystemButton.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/endurance/EventHand.h"
 
 /// Calls once, in one mode of the run loop. A timer that belongs to several modes would
@@ -345,16 +346,7 @@ void Monkey::PlayWithPanel(NSWindow* panel) {
 
 void Monkey::LeaveMenu() {
   for (const NSEventType type : {NSLeftMouseDown, NSLeftMouseUp}) {
-    [NSApp postEvent:[NSEvent mouseEventWithType:type
-                                        location:NSMakePoint(-1, -1)
-                                   modifierFlags:0
-                                       timestamp:0
-                                    windowNumber:0
-                                         context:nil
-                                     eventNumber:0
-                                      clickCount:1
-                                        pressure:type == NSLeftMouseDown ? 1 : 0]
-             atStart:NO];
+    [NSApp postEvent:MouseEvent(type, nil, NSMakePoint(-1, -1)) atStart:NO];
   }
 }
 

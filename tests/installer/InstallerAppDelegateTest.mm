@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "installer/Cocoa/MainMenu.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/installer/WizardFixture.h"
 
 // What the platform asks, and the delegate's own view of the wizard that lives in it.
@@ -43,18 +44,7 @@ class MainMenu {
   }
 };
 
-NSEvent* CommandQ() {
-  return [NSEvent keyEventWithType:NSKeyDown
-                          location:NSZeroPoint
-                     modifierFlags:NSCommandKeyMask
-                         timestamp:0
-                      windowNumber:0
-                           context:nil
-                        characters:@"q"
-       charactersIgnoringModifiers:@"q"
-                         isARepeat:NO
-                           keyCode:0];
-}
+NSEvent* CommandQ() { return KeyEvent(NSKeyDown, nil, @"q", NSCommandKeyMask); }
 
 /// The delegate with a wizard of this very machine, on which nothing is installed
 /// for the host: the tests' program has no marker document.

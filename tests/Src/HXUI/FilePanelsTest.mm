@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/Src/HXUI/ToolkitFixture.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -18,21 +19,6 @@
 @end
 
 @implementation PanelUser
-
-/// A modal run that was stopped by a timer goes on to wait for the next event.
-- (void)wakeTheDialog {
-  [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
-                                      location:NSZeroPoint
-                                 modifierFlags:0
-                                     timestamp:0
-                                  windowNumber:0
-                                       context:nil
-                                       subtype:0
-                                         data1:0
-                                         data2:0]
-           atStart:NO];
-}
-
 - (void)look:(NSTimer*)timer {
   NSWindow* modal = [NSApp modalWindow];
   if (![modal isKindOfClass:[NSSavePanel class]] || ![modal isVisible]) return;
@@ -41,12 +27,13 @@
     action = nullptr;
     end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     once(static_cast<NSSavePanel*>(modal));
-    [self wakeTheDialog];
+    // A modal run that was stopped by a timer goes on to wait for the next event.
+    PostEmptyEvent();
   } else if (std::chrono::steady_clock::now() > end) {
     ADD_FAILURE() << "the dialog did not end";
     [timer invalidate];
     [NSApp abortModal];
-    [self wakeTheDialog];
+    PostEmptyEvent();
   }
 }
 

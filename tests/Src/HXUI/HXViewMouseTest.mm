@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #import "Src/HXUI/Cocoa/HXView.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/Src/HXUI/RecordingPanel.h"
 #include "tests/Src/HXUI/RecordingSink.h"
 #include "tests/Src/HXUI/RecordingWindow.h"
@@ -115,16 +116,8 @@ TEST_F(HXViewMouseTest, MovementGoesToTheDeepestVisibleChild) {
   auto* grandchild = new RecordingPanel(child, {10, 10}, {20, 20});
   SendMouse(NSMouseMoved, *window, {300, 200});
   for (RecordingPanel* each : {panel, child, grandchild}) each->kinds.clear();
-  NSEvent* event = [NSEvent mouseEventWithType:NSMouseMoved
-                                      location:[View(grandchild) convertPoint:NSMakePoint(5, 5)
-                                                                       toView:nil]
-                                 modifierFlags:0
-                                     timestamp:0
-                                  windowNumber:[Native() windowNumber]
-                                       context:nil
-                                   eventNumber:0
-                                    clickCount:0
-                                      pressure:0];
+  NSEvent* event = MouseEvent(NSMouseMoved, Native(),
+                              [View(grandchild) convertPoint:NSMakePoint(5, 5) toView:nil]);
   [View(window.get()) mouseMoved:event];
   EXPECT_THAT(grandchild->kinds, ElementsAre(kMouseMove));
   EXPECT_THAT(child->kinds, IsEmpty());

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/Src/HXUI/RecordingPanel.h"
 #include "tests/Src/HXUI/RecordingSink.h"
 #include "tests/Src/HXUI/RecordingWindow.h"
@@ -53,17 +54,8 @@ class HXViewTest : public ToolkitFixture {
   HXView* View(const HXObject* widget) { return static_cast<HXView*>(widget->GetNativeView()); }
   NSWindow* Native() { return [window->GetNativeView() window]; }
 
-  NSEvent* KeyEvent(NSString* characters, NSUInteger modifiers = 0) {
-    return [NSEvent keyEventWithType:NSKeyDown
-                            location:NSZeroPoint
-                       modifierFlags:modifiers
-                           timestamp:0
-                        windowNumber:[Native() windowNumber]
-                             context:nil
-                          characters:characters
-         charactersIgnoringModifiers:characters
-                           isARepeat:NO
-                             keyCode:0];
+  NSEvent* KeyDown(NSString* characters, NSUInteger modifiers = 0) {
+    return KeyEvent(NSKeyDown, Native(), characters, modifiers);
   }
 
   static id<NSDraggingInfo> Dragging(NSArray* types, id fileNames) {
@@ -198,7 +190,7 @@ TEST_F(HXViewTest, SinkMayDeleteTheWidgetOnAKey) {
 
 TEST_F(HXViewTest, KeyEquivalentAnswersWhatSinksAndWidgetsSay) {
   RecordingSink sink;
-  NSEvent* event = KeyEvent(@"k", NSCommandKeyMask);
+  NSEvent* event = KeyDown(@"k", NSCommandKeyMask);
   EXPECT_FALSE([View(panel) performKeyEquivalent:event]);
   EXPECT_THAT(panel->keys, ElementsAre('k'));
   panel->passKeys = false;
@@ -213,7 +205,7 @@ TEST_F(HXViewTest, KeyEquivalentAnswersWhatSinksAndWidgetsSay) {
 
 TEST_F(HXViewTest, KeyEquivalentIsOfferedToTheChildrenUnlessSwallowed) {
   auto* child = new RecordingPanel(panel, {0, 0}, {10, 10});
-  NSEvent* event = KeyEvent(@"k", NSCommandKeyMask);
+  NSEvent* event = KeyDown(@"k", NSCommandKeyMask);
   [View(panel) performKeyEquivalent:event];
   EXPECT_EQ(child->keys.size(), 1U);
   panel->passKeys = false;
@@ -223,7 +215,7 @@ TEST_F(HXViewTest, KeyEquivalentIsOfferedToTheChildrenUnlessSwallowed) {
 
 TEST_F(HXViewTest, WidgetMayBeDeletedInAKeyEquivalent) {
   panel->onKey = [this] { delete std::exchange(panel, nullptr); };
-  EXPECT_FALSE([Native() performKeyEquivalent:KeyEvent(@"k", NSCommandKeyMask)]);
+  EXPECT_FALSE([Native() performKeyEquivalent:KeyDown(@"k", NSCommandKeyMask)]);
   EXPECT_TRUE(window->GetChildren().empty());
 }
 
@@ -232,7 +224,7 @@ TEST_F(HXViewTest, PlainKeyIsSeenOnceAndByTheFocusedWidgetOnly) {
   RecordingSink sink;
   panel->SetFocus();
   // The way of a key that is really typed.
-  [NSApp sendEvent:KeyEvent(@"a")];
+  [NSApp sendEvent:KeyDown(@"a")];
   EXPECT_THAT(panel->keys, ElementsAre('a'));
   EXPECT_THAT(other->keys, IsEmpty());
   EXPECT_EQ(sink.Count(kKeyDown), 1);
@@ -241,7 +233,7 @@ TEST_F(HXViewTest, PlainKeyIsSeenOnceAndByTheFocusedWidgetOnly) {
 TEST_F(HXViewTest, CommandKeyIsOfferedToTheWholeTreeOnce) {
   auto* other = new RecordingPanel(window.get(), {200, 20}, {50, 50});
   RecordingSink sink;
-  EXPECT_FALSE([Native() performKeyEquivalent:KeyEvent(@"k", NSCommandKeyMask)]);
+  EXPECT_FALSE([Native() performKeyEquivalent:KeyDown(@"k", NSCommandKeyMask)]);
   EXPECT_THAT(panel->keys, ElementsAre('k'));
   EXPECT_THAT(other->keys, ElementsAre('k'));
   EXPECT_EQ(sink.Count(kKeyDown), 3) << "the window's own view and two panels";
@@ -252,10 +244,10 @@ TEST_F(HXViewTest, HiddenWidgetsAndWhatLiesInThemHearOfNoCommandKeys) {
   auto* other = new RecordingPanel(window.get(), {200, 20}, {50, 50});
   RecordingSink sink;
   panel->SetVisible(false);
-  EXPECT_FALSE([Native() performKeyEquivalent:KeyEvent(@"k", NSCommandKeyMask)]);
+  EXPECT_FALSE([Native() performKeyEquivalent:KeyDown(@"k", NSCommandKeyMask)]);
   EXPECT_THAT(panel->keys, IsEmpty());
   EXPECT_THAT(child->keys, IsEmpty());
-  EXPECT_FALSE([View(child) performKeyEquivalent:KeyEvent(@"k", NSCommandKeyMask)]);
+  EXPECT_FALSE([View(child) performKeyEquivalent:KeyDown(@"k", NSCommandKeyMask)]);
   EXPECT_THAT(child->keys, IsEmpty());
   EXPECT_THAT(other->keys, ElementsAre('k'));
   EXPECT_EQ(sink.Count(kKeyDown), 2) << "the window's own view and the panel that is seen";
@@ -343,19 +335,12 @@ TEST_F(HXViewTest, ViewWithoutAWidgetTakesEverything) {
   EXPECT_EQ([view getObject], nullptr);
   [View(window.get()) addSubview:view];
   [view display];
-  NSEvent* event = [NSEvent mouseEventWithType:NSLeftMouseDown
-                                      location:[view convertPoint:NSMakePoint(5, 5) toView:nil]
-                                 modifierFlags:0
-                                     timestamp:0
-                                  windowNumber:[Native() windowNumber]
-                                       context:nil
-                                   eventNumber:0
-                                    clickCount:1
-                                      pressure:1];
+  NSEvent* event =
+      MouseEvent(NSLeftMouseDown, Native(), [view convertPoint:NSMakePoint(5, 5) toView:nil]);
   [Native() sendEvent:event];
   [view mouseMoved:event];
-  [view keyDown:KeyEvent(@"a")];
-  EXPECT_FALSE([view performKeyEquivalent:KeyEvent(@"a")]);
+  [view keyDown:KeyDown(@"a")];
+  EXPECT_FALSE([view performKeyEquivalent:KeyDown(@"a")]);
   EXPECT_FALSE([view performDragOperation:FileDragging([NSArray arrayWithObject:@"/a"])]);
   EXPECT_TRUE([view resignFirstResponder]);
   [view setFrameSize:NSMakeSize(70, 70)];

@@ -6,6 +6,7 @@
 #include "Src/HXUI/Cocoa/HXCocoaTimer.h"
 #include "Src/HXUI/Cocoa/NativeWindow.h"
 #include "Src/HXUI/HXWindow.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/Src/HXUI/RecordingPanel.h"
 #include "tests/Src/HXUI/RecordingSink.h"
 #include "tests/Src/HXUI/RecordingWindow.h"
@@ -70,15 +71,7 @@ class HXWindowModalTest : public ToolkitFixture {
     Later([] {});
   }
   static void PostMouse(NSEventType type, const HXWindow& to, NSPoint location) {
-    Post([NSEvent mouseEventWithType:type
-                            location:location
-                       modifierFlags:0
-                           timestamp:0
-                        windowNumber:[Native(to) windowNumber]
-                             context:nil
-                         eventNumber:0
-                          clickCount:1
-                            pressure:1]);
+    Post(MouseEvent(type, Native(to), location));
   }
   /// Runs the dialog: the window that the window manager keeps it in front of, or 0.
   static Window OwnerDuringRun(RecordingWindow& dialog) {

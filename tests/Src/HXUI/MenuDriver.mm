@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #import "tests/Src/HXUI/PlatformInput.h"
 
 @interface MenuDriverTarget : NSObject {
@@ -44,16 +45,7 @@ NSMenuView* OpenMenuView() {
 }
 
 void Post(NSEventType type, NSWindow* window) {
-  [NSApp postEvent:[NSEvent mouseEventWithType:type
-                                      location:[window mouseLocationOutsideOfEventStream]
-                                 modifierFlags:0
-                                     timestamp:0
-                                  windowNumber:[window windowNumber]
-                                       context:nil
-                                   eventNumber:0
-                                    clickCount:1
-                                      pressure:1]
-           atStart:NO];
+  [NSApp postEvent:MouseEvent(type, window, [window mouseLocationOutsideOfEventStream]) atStart:NO];
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "Src/HXUI/Cocoa/Conversions.h"
+#import "tests/Src/HXUI/NativeEvents.h"
 #import "tests/Src/HXUI/PlatformInput.h"
 
 @interface LaterAction : NSObject {
@@ -29,19 +30,6 @@ constexpr auto kPatience = std::chrono::seconds(30);
 
 NSPoint InWindow(const HXObject& widget, HXPoint point) {
   return [widget.GetNativeView() convertPoint:ToNative(point) toView:nil];
-}
-
-NSEvent* KeyEvent(NSEventType type, NSWindow* window, NSString* characters, NSUInteger modifiers) {
-  return [NSEvent keyEventWithType:type
-                          location:NSZeroPoint
-                     modifierFlags:modifiers
-                         timestamp:0
-                      windowNumber:[window windowNumber]
-                           context:nil
-                        characters:characters
-       charactersIgnoringModifiers:characters
-                         isARepeat:NO
-                           keyCode:0];
 }
 
 }  // namespace
@@ -148,36 +136,11 @@ void ToolkitFixture::SendMouse(NSEventType type, HXObject& widget, HXPoint point
   WarpPointer(widget, point);
   NSWindow* native = [widget.GetNativeView() window];
   const NSPoint location = InWindow(widget, point);
-  NSEvent* event;
   if (type == NSMouseEntered || type == NSMouseExited) {
-    event = [NSEvent enterExitEventWithType:type
-                                   location:location
-                              modifierFlags:modifiers
-                                  timestamp:0
-                               windowNumber:[native windowNumber]
-                                    context:nil
-                                eventNumber:0
-                             trackingNumber:0
-                                   userData:nullptr];
-    // The platform hands these to the owner of the tracking rectangle.
-    NSView* view = widget.GetNativeView();
-    if (type == NSMouseEntered) {
-      [view mouseEntered:event];
-    } else {
-      [view mouseExited:event];
-    }
+    CrossEdge(type, widget.GetNativeView(), location, modifiers);
     return;
   }
-  event = [NSEvent mouseEventWithType:type
-                             location:location
-                        modifierFlags:modifiers
-                            timestamp:0
-                         windowNumber:[native windowNumber]
-                              context:nil
-                          eventNumber:0
-                           clickCount:clickCount
-                             pressure:1];
-  [native sendEvent:event];
+  [native sendEvent:MouseEvent(type, native, location, clickCount, modifiers)];
 }
 
 void ToolkitFixture::Click(HXObject& widget, HXPoint point) {

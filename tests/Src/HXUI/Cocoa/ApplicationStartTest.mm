@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <filesystem>
 
+#import "tests/Src/HXUI/NativeEvents.h"
+
 namespace {
 
 /// The start of this very program, which all tests have behind them, and of another one.
@@ -25,19 +27,6 @@ class ApplicationStartTest : public ::testing::Test {
                               untilDate:limit
                                  inMode:NSDefaultRunLoopMode
                                 dequeue:YES];
-  }
-
-  static void PostEvent() {
-    [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
-                                        location:NSZeroPoint
-                                   modifierFlags:0
-                                       timestamp:0
-                                    windowNumber:0
-                                         context:nil
-                                         subtype:0
-                                           data1:0
-                                           data2:0]
-             atStart:NO];
   }
 
  private:
@@ -90,7 +79,7 @@ TEST_F(ApplicationStartTest, AnEventInTheQueueEndsAWaitOnce) {
 
   // A single wait may happen to be ended by something else.
   for (int event = 0; event < 3; ++event) {
-    PostEvent();
+    PostEmptyEvent();
     until = [NSDate dateWithTimeIntervalSinceNow:20];
     [loop runMode:NSDefaultRunLoopMode beforeDate:until];
     EXPECT_GT([until timeIntervalSinceNow], 10) << "it waited although there was an event";

@@ -2,7 +2,7 @@
 
 #include <X11/Xlib.h>
 
-#import "tests/Src/HXUI/WheelEvents.h"
+#import "tests/Src/HXUI/GNUstep/WheelEvent.h"
 
 void MoveRealPointer(NSPoint onScreen) {
   // A connection of our own; the program's belongs to AppKit.
@@ -15,17 +15,5 @@ void MoveRealPointer(NSPoint onScreen) {
 
 void TurnWheel(NSView* view, NSPoint inWindow, double lines) {
   NSWindow* window = [view window];
-  [window sendEvent:[NSEvent mouseEventWithType:NSScrollWheel
-                                       location:inWindow
-                                  modifierFlags:0
-                                      timestamp:0
-                                   windowNumber:[window windowNumber]
-                                        context:nil
-                                    eventNumber:0
-                                     clickCount:1
-                                       pressure:0
-                                   buttonNumber:0
-                                         deltaX:0
-                                         deltaY:lines
-                                         deltaZ:0]];
+  [window sendEvent:WheelEvent(window, inWindow, lines)];
 }
