@@ -26,9 +26,10 @@ std::string InstallerTexts::Summary(const InstallerState& state) {
 
 std::string InstallerTexts::Progress(const InstallerState& state) {
   const int step = state.installStep.load(std::memory_order_relaxed);
-  if (step == kDataFolderStep) return "Installing assets...";
-  if (step < 0 || step > kDataFolderStep) return "Preparing to install...";
-  return "Installing " + HostLabel(state, static_cast<std::size_t>(step)) + " version...";
+  if (step >= 0 && step < kDataFolderStep) {
+    return "Installing " + HostLabel(state, static_cast<std::size_t>(step)) + " version...";
+  }
+  return step == kDataFolderStep ? "Installing assets..." : "Preparing to install...";
 }
 
 std::string InstallerTexts::Failure(const InstallerState& state) {

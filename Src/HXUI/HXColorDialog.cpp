@@ -50,7 +50,7 @@ std::uint8_t ToByte(float channel) {
 }  // namespace
 
 HXColorDialog::HXColorDialog(HXObject* owner, HXColor* editedColor)
-    : HXWindow(owner, {0, 0}, kSize, "Color", 0), initialColor(*editedColor), edited(editedColor) {
+    : HXWindow(owner, {}, kSize, "Color", 0), initialColor(*editedColor), edited(editedColor) {
   NotifyChange(this, kChangeBegins);
   SetChannels(initialColor);
   BuildControls();

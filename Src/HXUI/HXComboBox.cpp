@@ -38,7 +38,7 @@ HXComboBox::HXComboBox(HXObject* parent, HXPoint position,
 }
 
 HXComboBox::HXComboBox(HXObject* parent, HXPoint position, HXSize /*size*/)
-    : HXPanelControl(parent, position, kFieldSize), value(nullptr), lightText(false) {}
+    : HXPanelControl(parent, position, kFieldSize) {}
 
 HXComboBox::HXComboBox(HXObject* parent, HXPoint position, const std::string& specification,
                        std::int32_t* boundValue, bool hasLightText)

@@ -43,8 +43,8 @@ class HXComboBox : public HXPanelControl {
   std::int32_t RunMenu();
 
   bool hover = false;
-  std::int32_t* value;
+  std::int32_t* value = nullptr;
   HXBitmap background;
   std::vector<HXComboBoxItem> items;
-  bool lightText;
+  bool lightText = false;
 };

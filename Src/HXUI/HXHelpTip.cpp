@@ -24,7 +24,7 @@ constexpr HXColor kTextColor{167, 167, 167, 255};
 }  // namespace
 
 HXHelpTip::HXHelpTip(HXWindow* owner)
-    : HXWindow(owner, {0, 0}, kFirstSize, "", kBorderless | kFloating) {}
+    : HXWindow(owner, {}, kFirstSize, "", kBorderless | kFloating) {}
 
 void HXHelpTip::Show(HXPoint point, const std::string& newTitle, const std::string& newText) {
   title = newTitle;

@@ -26,7 +26,7 @@ constexpr HXColor kNoOutline{0, 0, 0, 0};
 }  // namespace
 
 HXInputDialog::HXInputDialog(HXWindow* owner, const std::string& title, const char* initialText)
-    : HXWindow(owner, {0, 0}, kSize, title, 0),
+    : HXWindow(owner, {}, kSize, title, 0),
       textBox(new HXTextBox(this, kBoxPosition, kBoxSize, initialText == nullptr ? "" : initialText,
                             0)) {
   textBox->SetMaxLength(kMaxLength);

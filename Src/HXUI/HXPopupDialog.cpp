@@ -31,7 +31,7 @@ constexpr HXColor kTextColor{200, 200, 200, 255};
 
 HXPopupDialog::HXPopupDialog(HXWindow* owner, const std::string& title, const std::string& message,
                              bool yesNo, bool cancelStyle, bool withDontShow)
-    : HXWindow(owner, {0, 0}, kFirstSize, title, 0), text(message) {
+    : HXWindow(owner, {}, kFirstSize, title, 0), text(message) {
   HXCocoaDC dc(nullptr);
   dc.SetFont(kFontName, 0, kFontSize);
   const HXSize textSize = dc.MeasureText(text, {0, 0}, 0);
@@ -60,13 +60,13 @@ std::unique_ptr<HXLayout> HXPopupDialog::BuildButtons(bool yesNo, bool cancelSty
   const HXSize size = yesNo && cancelStyle ? kWideButtonSize : kButtonSize;
   const char* yes = cancelStyle ? "YES (CANCEL)" : "YES";
   auto row = std::make_unique<HXLayout>(HXLayout::kRow);
-  auto* first = new HXSystemButton(this, {0, 0}, size, yesNo ? yes : "OK");
+  auto* first = new HXSystemButton(this, {}, size, yesNo ? yes : "OK");
   first->SetHook(this, &HXPopupDialog::OnButton, kFirstAnswer);
   row->AddSpacer();
   row->AddWidget(first, false);
   row->AddSpacer();
   if (!yesNo) return row;
-  auto* second = new HXSystemButton(this, {0, 0}, size, "NO");
+  auto* second = new HXSystemButton(this, {}, size, "NO");
   second->SetHook(this, &HXPopupDialog::OnButton, kSecondAnswer);
   row->AddWidget(second, false);
   row->AddSpacer();
@@ -74,7 +74,7 @@ std::unique_ptr<HXLayout> HXPopupDialog::BuildButtons(bool yesNo, bool cancelSty
 }
 
 std::unique_ptr<HXLayout> HXPopupDialog::BuildDontShow() {
-  auto* checkBox = new HXCheckBox(this, {0, 0}, &dontShowAgain, "Don't show again");
+  auto* checkBox = new HXCheckBox(this, {}, &dontShowAgain, "Don't show again");
   checkBox->SetColor(kBackground);
   auto row = std::make_unique<HXLayout>(HXLayout::kRow);
   row->AddSpacer();

@@ -64,7 +64,7 @@ Attachments ReadAttachments(msghdr* header) {
 
 // recvmsg gives 0 both at the end and for a record without bytes.
 bool HasEnded(int socket) {
-  pollfd entry{socket, POLLRDHUP, 0};
+  pollfd entry{.fd = socket, .events = POLLRDHUP, .revents = {}};
   return ::poll(&entry, 1, 0) == 1;
 }
 

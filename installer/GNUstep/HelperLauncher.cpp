@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -45,7 +46,7 @@ bool ArrangeDescriptors(int ownEnd, int socket) {
   const pid_t helper = ::_Fork();
   if (helper == 0) {
     ::execve(arguments[0], arguments, environment);
-    ::_exit(127);
+    ::_exit(EXIT_FAILURE);
   }
   // The installer sees the helper's end as the end of the socket only if nobody else holds it.
   HelperDescriptor::CloseAllFrom(STDIN_FILENO);
@@ -53,20 +54,20 @@ bool ArrangeDescriptors(int ownEnd, int socket) {
     while (::waitpid(helper, nullptr, 0) < 0 && errno == EINTR) {
     }
   }
-  ::_exit(0);
+  ::_exit(EXIT_SUCCESS);
 }
 
 [[noreturn]] void BeGoBetween(int ownEnd, int socket, char* const* arguments,
                               char* const* environment) {
   ResetSignals();
   if (::chdir("/") != 0 || !ArrangeDescriptors(ownEnd, socket)) {
-    ::_exit(1);
+    ::_exit(EXIT_FAILURE);
   }
   const pid_t parent = ::_Fork();
   if (parent == 0) {
     BeParent(arguments, environment);
   }
-  ::_exit(parent > 0 ? 0 : 1);
+  ::_exit(parent > 0 ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
 // Async-signal-safety ends here.

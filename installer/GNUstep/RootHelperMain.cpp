@@ -38,16 +38,14 @@ bool ArrangeDescriptors(HelperDescriptor* socket) {
   constexpr int kFirstFree = STDERR_FILENO + 1;
   HelperDescriptor::CloseAllFrom(kFirstFree);
   *socket = HelperDescriptor(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, kFirstFree));
-  const bool hasError = ::fcntl(STDERR_FILENO, F_GETFD) >= 0;
-  // Opening may fill one of the three if it was closed; dup2 then makes it stay open over exec.
-  const int opened = ::open("/dev/null", O_RDWR | O_CLOEXEC);
-  const HelperDescriptor null(::fcntl(opened, F_DUPFD_CLOEXEC, kFirstFree));
-  if (opened >= kFirstFree) {
-    ::close(opened);
-  }
+  // Opening fills what was closed of the three; only the last one is too many.
+  int opened = -1;
+  do {
+    opened = ::open("/dev/null", O_RDWR);
+  } while (opened >= 0 && opened < kFirstFree);
+  const HelperDescriptor null(opened);
   return null.IsOpen() && ::dup2(null.Number(), STDIN_FILENO) >= 0 &&
-         ::dup2(null.Number(), STDOUT_FILENO) >= 0 &&
-         (hasError || ::dup2(null.Number(), STDERR_FILENO) >= 0);
+         ::dup2(null.Number(), STDOUT_FILENO) >= 0;
 }
 
 }  // namespace

@@ -17,8 +17,8 @@ LEFT_OUT = re.compile(r"/Apple/|/main\.mm$|/StartText\.cpp$")
 # Lines that cannot change what the program does: room that is reserved ahead, and
 # memory that is given back for good, which the tests of endurance watch.
 WITHOUT_EFFECT = re.compile(
-    r"\.reserve\(|^\s*(\[\w+ release\]|\[super dealloc\]|"
-    r"(XFree|std::free|va_end|posix_spawn\w*_destroy)\(&?\w+\));$")
+    r"\.reserve\(|^\s*(\[\w+ (?:release|drain)\]|\[super dealloc\]|"
+    r"(XFree|std::free|va_end|(posix_spawn|pthread_)\w*_destroy)\(&?\w+\));$")
 
 # The length of a local buffer: one more is never too few.
 BUFFER = re.compile(r"^\s*(?:char|unsigned char) \w+\[[^]]*\]|std::array<\w+, \w+> ")
@@ -27,16 +27,16 @@ BUFFER = re.compile(r"^\s*(?:char|unsigned char) \w+\[[^]]*\]|std::array<\w+, \w
 Fault = collections.namedtuple("Fault", "path line length kind before after")
 
 # The starting value of what the next statement has a call fill in.
-FILLED = re.compile(r"^\s*[\w:]+ (\w+) = \w+;$")
+FILLED = re.compile(r"^\s*[\w:]+ (\w+) = -?\w+;$")
 
 CALL = re.compile(r"^(\s+)(?:\w+(?:->|\.|::))*\w+\(.*\);\s*$|^(\s+)\[.*\];\s*$")
-# The flags of a measurement, which change nothing (`HXCocoaDC::MeasureText`).
-MEASURING_FLAGS = re.compile(r"MeasureText\(.*, (\d+)\);$")
+# The flags of a measurement, or of a text in no box, which change nothing (`HXCocoaDC`).
+MEASURING_FLAGS = re.compile(r"(?:MeasureText\(.*|DrawText\(.*, 0, 0\}), (\d+)\);$")
 # Fully transparent: nobody sees which colour it is.
 NO_COLOR = "{0, 0, 0, 0}"
 
 # Two properties of one object are set in either order.
-SETTER = re.compile(r"^\s*(?:\[(\w+) set[A-Z]\w*:.*\]|(\w+)(?:\.|->)Set\w+\(.*\));\s*$")
+SETTER = re.compile(r"^\s*(?:\[(\w+) set[A-Z]\w*:.*\]|(?:(\w+)(?:\.|->|::))?Set\w+\(.*\));\s*$")
 
 SWAPPED_OPERATORS = (
     (" < ", " <= "), (" > ", " >= "), (" <= ", " < "), (" >= ", " > "), (" == ", " != "),

@@ -116,7 +116,10 @@ TEST_F(HostDetectionTest, TheFolderIsBesideTheApplication) {
   sources.AddHost("/B.app", "10.0");
   sources.AddHost("/Programme/ä ö/C.app/", "10.5");
   sources.AddHost("D.app", "11");
-  EXPECT_EQ(Detect(), (Found{{2, "/Plug-ins"}, {3, "/Programme/ä ö/Plug-ins"}, {4, "Plug-ins"}}));
+  sources.AddHost("E/", "12");
+  EXPECT_EQ(
+      Detect(),
+      (Found{{2, "/Plug-ins"}, {3, "/Programme/ä ö/Plug-ins"}, {4, "Plug-ins"}, {5, "Plug-ins"}}));
 }
 
 TEST_F(HostDetectionTest, TheLaterOfTwoApplicationsOfOneSlotWins) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Src/HXUI/HXObjectGuard.h"
 #include "installer/Cocoa/MainMenu.h"
 #import "tests/Src/HXUI/NativeEvents.h"
 #include "tests/installer/WizardFixture.h"
@@ -80,6 +81,13 @@ TEST_F(InstallerAppDelegateTest, ShowsTheWizardWhenLaunchingHasFinished) {
   Launch();
   EXPECT_TRUE(Wizard().IsVisible());
   EXPECT_TRUE([NativeWindow() isVisible]);
+}
+
+TEST_F(InstallerAppDelegateTest, TheWizardEndsWithIt) {
+  const HXObjectGuard guard(&Wizard());
+  [delegate release];
+  delegate = nil;
+  EXPECT_FALSE(guard.IsAlive());
 }
 
 TEST_F(InstallerAppDelegateTest, EndsWithTheLastWindow) {

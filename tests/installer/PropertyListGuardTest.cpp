@@ -38,7 +38,7 @@ std::string Doubling(std::size_t depth) {
 
 TEST(PropertyListGuardTest, OrdinaryTextsAreSafe) {
   for (const char* text : {"{ a = b; }", "<?xml version=\"1.0\"?><plist><dict/></plist>", "(1, 2)",
-                           " \t\r\n{}", "\"a\" = \"b\";"}) {
+                           " \t\r\n{}", "\t{}", "\"a\" = \"b\";"}) {
     EXPECT_TRUE(IsSafePropertyList(text)) << text;
   }
 }

@@ -38,6 +38,13 @@ TEST_F(ClipboardTest, ALaterTextReplacesTheFormerOne) {
   EXPECT_EQ(Content(), "");
 }
 
+TEST_F(ClipboardTest, ATextIsCopiedOnce) {
+  SetClipboardText("first");
+  const NSInteger before = [Pasteboard() changeCount];
+  SetClipboardText("second");
+  EXPECT_EQ([Pasteboard() changeCount], before + 1);
+}
+
 TEST_F(ClipboardTest, InvalidTextLeavesTheClipboardAsItIs) {
   SetClipboardText("kept");
   SetClipboardText("\xFF\xFE");

@@ -159,7 +159,13 @@ TEST_F(FilePanelsTest, TheWholePromptCanBeRead) {
     [panel display];
     NSCell* cell = [panel defaultButtonCell];
     ASSERT_NE([cell controlView], nil);
-    EXPECT_GE([[cell controlView] frame].size.width, [cell cellSize].width);
+    const NSRect button = [[cell controlView] frame];
+    EXPECT_GE(button.size.width, [cell cellSize].width);
+    // It grows to the left: as far from the right edge as the field for the name above it.
+    NSView* field = static_cast<NSView*>([panel firstResponder]);
+    while (field != nil && ![field isKindOfClass:[NSForm class]]) field = [field superview];
+    ASSERT_NE(field, nil);
+    EXPECT_NEAR(NSMaxX(button), NSMaxX([field frame]), 2);
     Cancel(panel);
   });
   ChooseFolder("Custom Folder", folder.path);

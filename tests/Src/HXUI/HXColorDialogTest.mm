@@ -185,6 +185,8 @@ TEST_F(HXColorDialogTest, APressOnTheBarPicksTheHue) {
   Press({280, 7 + 85});
   EXPECT_EQ(color, kBlue);
   EXPECT_EQ(Hex().GetText(), "0000FF");
+  // Saturated in the square's corner, where the marker is not in the way.
+  EXPECT_TRUE(IsNear(Draw(*dialog)->At(7 + 255, 7 + 30), {0, 0, 225, 255}, 3));
   EXPECT_EQ(Notifications(), (Changes{1}));
   EXPECT_TRUE(dialog->HasMouseCapture());
   Release({280, 92});

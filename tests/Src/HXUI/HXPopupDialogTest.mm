@@ -40,6 +40,11 @@ TEST_F(HXPopupDialogTest, IsAsLargeAsItsText) {
   EXPECT_EQ(dialog.GetSize(), (HXSize{text.width + 40, text.height + 80}));
 }
 
+TEST_F(HXPopupDialogTest, IsDrawnWhenItIsMade) {
+  const HXPopupDialog dialog(window.get(), "Title", kText, true, false, true);
+  EXPECT_FALSE([dialog.GetNativeView() needsDisplay]);
+}
+
 TEST_F(HXPopupDialogTest, CheckBoxMakesItHigher) {
   const HXPopupDialog dialog(window.get(), "Title", kText, false, false, true);
   const HXSize text = MeasureText(kText);

@@ -110,6 +110,7 @@ TEST_F(HXScrollBarMouseTest, ArrowZonesShortenTheTrackAndShowTriangles) {
   bar->SetArrowSize(17);
   const auto pixels = Draw(*bar);
   EXPECT_EQ(CountOther(*pixels, {1, 0, 4, 16}, kPart), 0);
+  EXPECT_EQ(CountOther(*pixels, {1, 0, kWidth - 2, 2}, kPart), 0);
   EXPECT_EQ(CountOther(*pixels, {1, 16, 16, 1}, kTrack), 0);
   // The thumb: 206 * 240 / 480.
   EXPECT_EQ(pixels->At(2, 17), kPart);

@@ -95,6 +95,38 @@ TEST_F(HXWindowModalTest, TheWindowManagerKeepsItInFrontOfItsOwner) {
   }
 }
 
+TEST_F(HXWindowModalTest, TheWindowManagerIsAskedToMakeItActiveAsThePersonWants) {
+  const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
+  XSelectInput(display.get(), DefaultRootWindow(display.get()), SubstructureNotifyMask);
+  XSync(display.get(), False);
+  RecordingWindow dialog(window.get());
+  Window asked = 0;
+  Later([&] {
+    asked = reinterpret_cast<Window>([Native(dialog) windowRef]);
+    dialog.Close();
+  });
+  dialog.RunModal();
+
+  const Atom active = XInternAtom(display.get(), "_NET_ACTIVE_WINDOW", False);
+  const long user = 2;
+  const auto isTheRequest = [&](const XEvent& event) {
+    return event.type == ClientMessage && event.xclient.window == asked &&
+           event.xclient.message_type == active && event.xclient.format == 32 &&
+           event.xclient.data.l[0] == user;
+  };
+  bool found = false;
+  PumpUntil(
+      [&] {
+        XEvent event;
+        while (!found && XPending(display.get()) > 0) {
+          XNextEvent(display.get(), &event);
+          found = isTheRequest(event);
+        }
+        return found;
+      },
+      "the request to make the dialog active");
+}
+
 TEST_F(HXWindowModalTest, WithoutAnOwnerItIsKeptInFrontOfNoWindow) {
   RecordingWindow dialog;
   EXPECT_EQ(OwnerDuringRun(dialog), 0U);

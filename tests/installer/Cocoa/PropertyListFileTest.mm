@@ -248,6 +248,11 @@ TEST_F(PropertyListFileTest, AFileLargerThanTheMemoryIsRefusedUnread) {
   EXPECT_FALSE(ReadPropertyListFile(file).has_value());
 }
 
+TEST_F(PropertyListFileTest, AFileThatEndsBeforeItsSizeIsNoDictionary) {
+  // The kernel's own files claim a whole page.
+  EXPECT_FALSE(ReadPropertyListFile("/sys/devices/system/cpu/online").has_value());
+}
+
 TEST_F(PropertyListFileTest, ALinkToAFileIsFollowed) {
   const std::string file = folder.AddFile("list.plist", kXmlInfo);
   ExpectInfo(ReadPropertyListFile(folder.AddLink("link.plist", file)));

@@ -89,6 +89,12 @@ TEST_F(TextExtentsTest, ShortenedTextIsTheLongestBeginningThatFits) {
   }
 }
 
+TEST_F(TextExtentsTest, ABoxAsHighAsTheTextIsHighEnough) {
+  const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
+  const NSSize box = NSMakeSize(120, Fresh("…", look, NSMakeSize(120, 1000)).height);
+  EXPECT_GT(TextExtents::Shortened(kText, look, box).size(), std::string("…").size());
+}
+
 TEST_F(TextExtentsTest, ABoxTooLowForOneLineLeavesNothing) {
   const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
   EXPECT_EQ(TextExtents::Shortened(kText, look, NSMakeSize(120, 4)), "");
