@@ -56,6 +56,15 @@ void EndToEndTest::InstallToTheFinish() {
   ASSERT_TRUE(Ends());
 }
 
+void EndToEndTest::GoOnToTheError() {
+  ASSERT_TRUE(wizard.GoTo(Page::kSummary));
+  wizard.Click(Wizard::kNext);
+  const MessageBox message = Box(MessageBox::kError);
+  ASSERT_TRUE(message.IsUp());
+  message.Click(Button::kOk);
+  ASSERT_TRUE(Ends());
+}
+
 testing::AssertionResult EndToEndTest::Ends(int status) {
   const int seen = application->WaitForEnd();
   if (seen != status) {

@@ -43,6 +43,8 @@ class EndToEndTest : public testing::Test {
 
   /// From the hosts on, through the installation and out; use it in ASSERT_NO_FATAL_FAILURE.
   void InstallToTheFinish();
+  /// From the welcome page to the message that a run has failed, and through it; use it likewise.
+  void GoOnToTheError();
   /// Waits for the end; it has to come with `status`, and nothing may be left running.
   testing::AssertionResult Ends(int status = 0);
   /// The installation of row `row` of a furnished machine is there, whole, and the only thing.

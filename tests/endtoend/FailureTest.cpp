@@ -4,18 +4,7 @@
 
 namespace {
 
-class FailureTest : public EndToEndTest {
- protected:
-  /// From the welcome page to the message and through it.
-  void GoOnToTheError() {
-    ASSERT_TRUE(wizard.GoTo(Page::kSummary));
-    wizard.Click(Wizard::kNext);
-    const MessageBox message = Box(MessageBox::kError);
-    ASSERT_TRUE(message.IsUp());
-    message.Click(Button::kOk);
-    ASSERT_TRUE(Ends());
-  }
-};
+using FailureTest = EndToEndTest;
 
 TEST_F(FailureTest, RefusedRightsChangeNothing) {
   machine.Furnish();

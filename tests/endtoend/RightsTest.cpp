@@ -84,12 +84,7 @@ class RightsTest : public EndToEndTest {
   void ExpectRefusal() {
     const Tree before = Everything();
     Start(User::kOrdinary);
-    ASSERT_TRUE(wizard.GoTo(Page::kSummary));
-    wizard.Click(Wizard::kNext);
-    const MessageBox message = Box(MessageBox::kError);
-    ASSERT_TRUE(message.IsUp());
-    message.Click(Button::kOk);
-    ASSERT_TRUE(Ends());
+    ASSERT_NO_FATAL_FAILURE(GoOnToTheError());
     EXPECT_EQ(DescribeDifference(before, Everything()), "");
     EXPECT_TRUE(IsUntouched());
   }

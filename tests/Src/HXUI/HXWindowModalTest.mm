@@ -85,6 +85,18 @@ class HXWindowModalTest : public ToolkitFixture {
     dialog.RunModal();
     return owner;
   }
+  /// Makes `owned` and shows it; the button in it tells `clicked`.
+  RecordingPanel& ShowOwned() {
+    owned = std::make_unique<RecordingWindow>();
+    auto* button = new RecordingPanel(owned.get(), {10, 10}, {50, 20});
+    button->SetHook(&clicked, &RecordingOwner::OnEvent, 1);
+    owned->SetVisible(true);
+    PumpUntil([&] { return owned->IsKeyWindow(); }, "the window to become key");
+    return *button;
+  }
+
+  RecordingOwner clicked;
+  std::unique_ptr<RecordingWindow> owned;
 };
 
 TEST_F(HXWindowModalTest, TheWindowManagerKeepsItInFrontOfItsOwner) {
@@ -403,16 +415,11 @@ TEST_F(HXWindowModalTest, OuterDialogMayBeDeletedInsideTheInnerRun) {
 }
 
 TEST_F(HXWindowModalTest, WindowMayBeDeletedInADialogThatItsOwnButtonRuns) {
-  auto owned = std::make_unique<RecordingWindow>();
-  auto* button = new RecordingPanel(owned.get(), {10, 10}, {50, 20});
-  owned->SetVisible(true);
-  PumpUntil([&] { return owned->IsKeyWindow(); }, "the window to become key");
+  RecordingPanel& button = ShowOwned();
   NSWindow* const native = Native(*owned);
   bool aliveForItsEvent = false;
-  RecordingOwner owner;
-  button->SetHook(&owner, &RecordingOwner::OnEvent, 1);
-  owner.action = [&] {
-    if (owner.events.back() != kLeftUp) return;
+  clicked.action = [&] {
+    if (clicked.events.back() != kLeftUp) return;
     RecordingWindow dialog;
     Later([&] {
       owned.reset();
@@ -421,27 +428,22 @@ TEST_F(HXWindowModalTest, WindowMayBeDeletedInADialogThatItsOwnButtonRuns) {
     dialog.RunModal();
     aliveForItsEvent = [[NSApp windows] indexOfObjectIdenticalTo:native] != NSNotFound;
   };
-  Click(*button, {5, 5});
+  Click(button, {5, 5});
   EXPECT_EQ(owned, nullptr);
   EXPECT_TRUE(aliveForItsEvent) << "the platform window is still serving the click";
 }
 
 TEST_F(HXWindowModalTest, WindowOutlivesTheEventThatDeletesIt) {
-  auto owned = std::make_unique<RecordingWindow>();
-  auto* button = new RecordingPanel(owned.get(), {10, 10}, {50, 20});
-  owned->SetVisible(true);
-  PumpUntil([&] { return owned->IsKeyWindow(); }, "the window to become key");
+  RecordingPanel& button = ShowOwned();
   NSWindow* const native = Native(*owned);
   bool aliveForItsEvent = false;
-  RecordingOwner owner;
-  button->SetHook(&owner, &RecordingOwner::OnEvent, 1);
-  owner.action = [&] {
+  clicked.action = [&] {
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
     owned.reset();
     [pool drain];
     aliveForItsEvent = [[NSApp windows] indexOfObjectIdenticalTo:native] != NSNotFound;
   };
-  SendMouse(NSLeftMouseDown, *button, {5, 5});
+  SendMouse(NSLeftMouseDown, button, {5, 5});
   EXPECT_EQ(owned, nullptr);
   EXPECT_TRUE(aliveForItsEvent);
 }
