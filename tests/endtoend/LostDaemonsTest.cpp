@@ -4,15 +4,13 @@
 
 namespace {
 
-/// The platform's daemons, which belong to the session and not to the installer, end in
-/// the middle. One learns which application is active, one keeps what was copied.
+/// The platform's daemons belong to the session, not to the installer, and end in the middle:
+/// above all the one that learns which application is active.
 class LostDaemonsTest : public EndToEndTest {
  protected:
   /// The installer stops being active, and becomes so again.
   void TurnAwayAndBack() {
-    {
-      const OtherWindow other(desktop);
-    }
+    { const OtherWindow other(desktop); }
     ASSERT_TRUE(WaitUntil([this] { return wizard.IsActive(); }));
   }
 

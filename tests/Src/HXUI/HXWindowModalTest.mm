@@ -12,9 +12,6 @@
 #include "tests/Src/HXUI/RecordingWindow.h"
 #include "tests/Src/HXUI/ToolkitFixture.h"
 
-// After the others: it defines short words as macros.
-#include <X11/Xutil.h>
-
 /// An input of the run loop whose handler fails, once.
 @interface FailingInput : NSObject <RunLoopEvents> {
   int pipeEnds[2];
@@ -73,18 +70,6 @@ class HXWindowModalTest : public ToolkitFixture {
   static void PostMouse(NSEventType type, const HXWindow& to, NSPoint location) {
     Post(MouseEvent(type, Native(to), location));
   }
-  /// Runs the dialog: the window that the window manager keeps it in front of, or 0.
-  static Window OwnerDuringRun(RecordingWindow& dialog) {
-    Window owner = 0;
-    Later([&] {
-      Display* display = XOpenDisplay(nullptr);
-      XGetTransientForHint(display, reinterpret_cast<Window>([Native(dialog) windowRef]), &owner);
-      XCloseDisplay(display);
-      dialog.Close();
-    });
-    dialog.RunModal();
-    return owner;
-  }
   /// Makes `owned` and shows it; the button in it tells `clicked`.
   RecordingPanel& ShowOwned() {
     owned = std::make_unique<RecordingWindow>();
@@ -98,51 +83,6 @@ class HXWindowModalTest : public ToolkitFixture {
   RecordingOwner clicked;
   std::unique_ptr<RecordingWindow> owned;
 };
-
-TEST_F(HXWindowModalTest, TheWindowManagerKeepsItInFrontOfItsOwner) {
-  auto* widget = new RecordingPanel(window.get(), {0, 0}, {10, 10});
-  for (HXObject* owner : std::initializer_list<HXObject*>{window.get(), widget}) {
-    RecordingWindow dialog(owner);
-    EXPECT_EQ(OwnerDuringRun(dialog), reinterpret_cast<Window>([Native(*window) windowRef]));
-  }
-}
-
-TEST_F(HXWindowModalTest, TheWindowManagerIsAskedToMakeItActiveAsThePersonWants) {
-  const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
-  XSelectInput(display.get(), DefaultRootWindow(display.get()), SubstructureNotifyMask);
-  XSync(display.get(), False);
-  RecordingWindow dialog(window.get());
-  Window asked = 0;
-  Later([&] {
-    asked = reinterpret_cast<Window>([Native(dialog) windowRef]);
-    dialog.Close();
-  });
-  dialog.RunModal();
-
-  const Atom active = XInternAtom(display.get(), "_NET_ACTIVE_WINDOW", False);
-  const long user = 2;
-  const auto isTheRequest = [&](const XEvent& event) {
-    return event.type == ClientMessage && event.xclient.window == asked &&
-           event.xclient.message_type == active && event.xclient.format == 32 &&
-           event.xclient.data.l[0] == user;
-  };
-  bool found = false;
-  PumpUntil(
-      [&] {
-        XEvent event;
-        while (!found && XPending(display.get()) > 0) {
-          XNextEvent(display.get(), &event);
-          found = isTheRequest(event);
-        }
-        return found;
-      },
-      "the request to make the dialog active");
-}
-
-TEST_F(HXWindowModalTest, WithoutAnOwnerItIsKeptInFrontOfNoWindow) {
-  RecordingWindow dialog;
-  EXPECT_EQ(OwnerDuringRun(dialog), 0U);
-}
 
 TEST_F(HXWindowModalTest, CloseButtonEndsTheRunWithOne) {
   RecordingWindow dialog(window.get());
