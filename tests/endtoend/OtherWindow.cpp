@@ -1,9 +1,11 @@
 #include "tests/endtoend/OtherWindow.h"
 
-#include <X11/Xlib.h>
 #include <gtest/gtest.h>
 
 #include "tests/endtoend/Waiting.h"
+
+// After the others: it defines short words as macros.
+#include <X11/Xlib.h>
 
 OtherWindow::OtherWindow(const Desktop& desktop) : desktop(desktop) {
   Display* display = desktop.Connection();
