@@ -114,13 +114,16 @@ void GalleryWindow::ShowView(std::size_t index) {
   buttons[shown]->SetLabelColor(GalleryStyle::kAccent);
   buttons[shown]->Redraw();
   pages->Redraw();
+  ShowValues();
 }
+
+void GalleryWindow::ShowValues() { values->SetText(views[shown]->Values()); }
 
 void GalleryWindow::OnSize() {
   for (GalleryView* view : views) view->SetSize(pages->GetSize());
 }
 
-void GalleryWindow::OnTimer(int) { values->SetText(views[shown]->Values()); }
+void GalleryWindow::OnTimer(int) { ShowValues(); }
 
 void GalleryWindow::Draw() {
   HXCocoaDC dc(this);

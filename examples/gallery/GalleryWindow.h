@@ -21,7 +21,7 @@ class GalleryWindow : public HXWindow {
   void Draw() override;
   /// Gives every view the room that the layout has left for them.
   void OnSize() override;
-  /// Reads the bound values.
+  /// Whatever changes a bound value tells nobody; so they are read again and again.
   void OnTimer(int timerId) override;
 
  private:
@@ -31,6 +31,7 @@ class GalleryWindow : public HXWindow {
   /// The hook of the buttons on the left.
   void OnChooseView(std::uint32_t eventCode);
   void ShowView(std::size_t index);
+  void ShowValues();
 
   HXPanel* navigation = nullptr;
   HXPanel* pages = nullptr;
