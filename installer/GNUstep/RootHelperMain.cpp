@@ -38,7 +38,8 @@ bool ArrangeDescriptors(HelperDescriptor* socket) {
   constexpr int kFirstFree = STDERR_FILENO + 1;
   HelperDescriptor::CloseAllFrom(kFirstFree);
   *socket = HelperDescriptor(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, kFirstFree));
-  // Opening fills what was closed of the three; only the last one is too many.
+  // Opening fills what was closed of the three, where it has to stay open over exec; only the
+  // last one is too many.
   int opened = -1;
   do {
     opened = ::open("/dev/null", O_RDWR);

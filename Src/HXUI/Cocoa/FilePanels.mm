@@ -89,7 +89,7 @@ void SetPrompt(NSSavePanel* panel, const std::string& prompt) {
 void SetStart(NSSavePanel* panel, const char* directory) {
   if (directory == nullptr || *directory == '\0') return;
   NSString* path = ToNative(std::string(directory));
-  if (path != nil) [panel setDirectoryURL:[NSURL fileURLWithPath:path]];
+  if (path != nil) [panel setDirectoryURL:[NSURL fileURLWithPath:path isDirectory:YES]];
 }
 
 NSArray* ToArray(const std::vector<std::string>& types) {

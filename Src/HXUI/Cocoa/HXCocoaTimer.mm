@@ -23,7 +23,7 @@ void HXCocoaTimer::Start(std::uint32_t intervalMs, bool once) {
                                   target:target
                                 selector:@selector(timerTick:)
                                 userInfo:nil
-                                 repeats:YES];
+                                 repeats:oneShot ? NO : YES];
   // The run loop retains the timer until it is invalidated.
   [[NSRunLoop currentRunLoop] addTimer:timer forMode:NSDefaultRunLoopMode];
   running = true;
