@@ -15,15 +15,32 @@ fail() {
   exit 1
 }
 
-# wait_until SECONDS TEXT COMMAND...: repeats the command until it succeeds; fails with TEXT when it is too late.
-wait_until() {
+# wait_while_false SECONDS COMMAND...: repeats the command until it succeeds; false when it is too late.
+wait_while_false() {
   wait_end=$(($(date +%s) + $1))
-  wait_text=$2
-  shift 2
+  shift
   until "$@"; do
-    [ "$(date +%s)" -lt "$wait_end" ] || fail "$wait_text"
+    [ "$(date +%s)" -lt "$wait_end" ] || return 1
     sleep 0.02
   done
+}
+
+# wait_until SECONDS TEXT COMMAND...: the same; fails with TEXT when it is too late.
+wait_until() {
+  wait_seconds=$1
+  wait_text=$2
+  shift 2
+  wait_while_false "$wait_seconds" "$@" || fail "$wait_text"
+}
+
+# wait_for_program SECONDS TEXT LOG COMMAND...: the same for a program that writes to LOG; its
+# last line follows TEXT.
+wait_for_program() {
+  wait_seconds=$1
+  wait_text=$2
+  wait_log=$3
+  shift 3
+  wait_while_false "$wait_seconds" "$@" || fail "$wait_text; it says: $(tail -n 1 "$wait_log" 2>/dev/null)"
 }
 
 # as_root COMMAND...: runs the command with administrator rights.
@@ -100,9 +117,9 @@ has_daemons() {
 # program that uses them, even while the next one turns to them.
 start_daemons() {
   gdnc --no-fork >"$session/gdnc.log" 2>&1 </dev/null &
-  wait_until 120 "gdnc did not start; it says: $(tail -n 1 "$session/gdnc.log" 2>/dev/null)" has_daemons 1
+  wait_for_program 120 "gdnc did not start" "$session/gdnc.log" has_daemons 1
   gpbs --no-fork >"$session/gpbs.log" 2>&1 </dev/null &
-  wait_until 120 "gpbs did not start; it says: $(tail -n 1 "$session/gpbs.log" 2>/dev/null)" has_daemons 2
+  wait_for_program 120 "gpbs did not start" "$session/gpbs.log" has_daemons 2
 }
 
 # start_display: an X server with a window manager inside the session, and the daemons that
@@ -111,11 +128,11 @@ start_display() {
   unset DISPLAY XAUTHORITY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
   # The server picks a free number and says which.
   Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp "$@" 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
-  wait_until 120 "the X server did not start; it says: $(tail -n 1 "$session/server.log" 2>/dev/null)" has_display_number
+  wait_for_program 120 "the X server did not start" "$session/server.log" has_display_number
   DISPLAY=:$(cat "$session/display")
   export DISPLAY
   openbox --sm-disable >"$session/window-manager.log" 2>&1 </dev/null &
-  wait_until 120 "the window manager did not start; it says: $(tail -n 1 "$session/window-manager.log" 2>/dev/null)" has_window_manager
+  wait_for_program 120 "the window manager did not start" "$session/window-manager.log" has_window_manager
   start_daemons
 }
 
