@@ -126,8 +126,9 @@ start_daemons() {
 # GNUstep's programs share there; sets DISPLAY. Arguments go to the server.
 start_display() {
   unset DISPLAY XAUTHORITY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
-  # The server picks a free number and says which.
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp "$@" 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
+  # The server picks a free number and says which. Without -noreset it would start over as
+  # soon as nobody is connected, and turn away whoever is just connecting.
+  Xvfb -noreset -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp "$@" 3>"$session/display" >"$session/server.log" 2>&1 </dev/null &
   wait_for_program 120 "the X server did not start" "$session/server.log" has_display_number
   DISPLAY=:$(cat "$session/display")
   export DISPLAY

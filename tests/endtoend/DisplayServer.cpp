@@ -27,9 +27,10 @@ DisplayServer::DisplayServer() {
   std::array<int, 2> ends{};
   EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
   ChildProcess::Setup setup;
-  // Whoever the installer takes itself for, it may connect.
-  setup.command = {"Xvfb", "-displayfd", "3",         "-screen", "0",  "1024x768x24",
-                   "-dpi", "96",         "-nolisten", "tcp",     "-ac"};
+  // It stays when the last client has left, and turns nobody away meanwhile; whoever the
+  // installer takes itself for, it may connect.
+  setup.command = {"Xvfb",        "-noreset", "-displayfd", "3",         "-screen", "0",
+                   "1024x768x24", "-dpi",     "96",         "-nolisten", "tcp",     "-ac"};
   setup.environment = {kPath};
   setup.errors = folder.Path("server.log");
   setup.inherited = ends[1];
