@@ -123,7 +123,8 @@ void HXObject::NotifyClose() {
   // Each call may add or delete children; going on by index skips none that stay.
   for (std::size_t i = 0; guard.IsAlive() && i < children.size();) {
     HXObject* child = children[i];
-    child->NotifyClose();
+    // A dialog that this window owns stays open, and hears of its own end.
+    if (NativeView::IsInside(child->nativeView, nativeView)) child->NotifyClose();
     if (guard.IsAlive() && i < children.size() && children[i] == child) ++i;
   }
 }

@@ -164,7 +164,7 @@ class HXObject {
  protected:
   explicit HXObject(HXObject* parentObject);
 
-  /// Calls `OnClose` here and on everything below, parents first.
+  /// Calls `OnClose` here and on everything below in the same window, parents first.
   void NotifyClose();
 
   /// Ends the capture if this widget or one below it holds it: whoever leaves

@@ -149,6 +149,8 @@ void HXScrollBar::OnMouse(MouseKind kind) {
       Press(y);
       break;
     case kMouseMove:
+      // Hidden in the middle of a drag, the bar has lost the pointer.
+      if (dragging && !HasMouseCapture()) dragging = false;
       if (dragging) SetThumbPosition(y - grabOffset, false);
       UpdateHover(y);
       break;

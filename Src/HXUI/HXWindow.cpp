@@ -25,6 +25,8 @@ HXWindow::HXWindow(NSWindow* existingWindow)
 
 HXWindow::~HXWindow() {
   HXWindow::Close();
+  // Close has done nothing to a window that is not ours.
+  GiveUpCapture();
   if (ownsWindow) NativeWindow::Release(window, windowDelegate);
   nativeView = nullptr;
 }
@@ -95,7 +97,7 @@ int HXWindow::RunModal() {
   }
   NativeWindow::EndModal(session);
   // The end of a run inside this one has brought the window back to the front.
-  if (guard.IsAlive() && closed) NativeWindow::SetVisible(window, false);
+  if (guard.IsAlive() && closed && ownsWindow) NativeWindow::SetVisible(window, false);
 
   if (ownerGuard.IsAlive()) owner->SetEnabled(true);
   return guard.IsAlive() ? static_cast<int>(result) : 0;

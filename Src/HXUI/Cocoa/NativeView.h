@@ -25,6 +25,8 @@ HXPoint GetPosition(NSView* view);
 void SetPosition(NSView* view, HXPoint position);
 void SetSize(NSView* view, HXSize size);
 HXSize GetSize(NSView* view);
+/// True for a view that stands, at any depth, in `ancestor`.
+bool IsInside(NSView* view, NSView* ancestor);
 /// Where the origin of `view` lies in `ancestor`.
 HXPoint GetOffset(NSView* view, NSView* ancestor);
 

@@ -67,6 +67,10 @@ HXSize NativeView::GetSize(NSView* view) {
   return view == nil ? HXSize{} : FromNative([view bounds].size);
 }
 
+bool NativeView::IsInside(NSView* view, NSView* ancestor) {
+  return ancestor != nil && [view isDescendantOf:ancestor];
+}
+
 HXPoint NativeView::GetOffset(NSView* view, NSView* ancestor) {
   if (view == nil || ancestor == nil) return {};
   return FromNative([view convertPoint:NSZeroPoint toView:ancestor]);

@@ -60,6 +60,16 @@ TEST_F(HXScrollBarMouseTest, OtherButtonsDoNotDrag) {
   EXPECT_FALSE(bar->HasMouseCapture());
 }
 
+TEST_F(HXScrollBarMouseTest, HidingTheBarEndsTheDrag) {
+  Make(480);
+  Draw(*bar);
+  SendMouse(NSLeftMouseDown, *bar, {8, 10});
+  bar->SetVisible(false);
+  bar->SetVisible(true);
+  SendMouse(NSMouseMoved, *bar, {8, 60});
+  EXPECT_EQ(ContentAt().y, 0);
+}
+
 TEST_F(HXScrollBarMouseTest, MayBeDeletedWhileDragging) {
   Make(480);
   Draw(*bar);

@@ -129,6 +129,15 @@ TEST_F(HXWindowModalTest, EndModalReturnsTheResultAndLeavesTheWindow) {
   EXPECT_EQ(dialog.RunModal(), 0) << "the result is cleared at the start";
 }
 
+TEST_F(HXWindowModalTest, AWrappedWindowStaysOnTheScreenAfterItsRun) {
+  RecordingWindow other;
+  other.SetVisible(true);
+  HXWindow wrapper(Native(other));
+  Later([&] { wrapper.EndModal(); });
+  wrapper.RunModal();
+  EXPECT_TRUE([Native(other) isVisible]);
+}
+
 TEST_F(HXWindowModalTest, CloseEndsTheRunWithWhatTheDialogHasSet) {
   RecordingWindow dialog(window.get());
   Later([&] {

@@ -326,7 +326,10 @@ TEST_F(HXWindowTest, WrappedWindowIsNeitherClosedNorReleased) {
     EXPECT_TRUE([native isVisible]);
     wrapper.SetVisible(false);
     wrapper.SetVisible(true);
+    wrapper.CaptureMouse();
+    EXPECT_FALSE([native areCursorRectsEnabled]);
   }
+  EXPECT_TRUE([native areCursorRectsEnabled]);
   EXPECT_TRUE([native isVisible]);
   EXPECT_EQ([[[native contentView] subviews] count], 0U);
   [pool drain];
@@ -348,6 +351,16 @@ TEST_F(HXWindowTest, ClosingIsToldToEveryWidgetInTheWindow) {
   EXPECT_EQ(inner->closes, 1);
   EXPECT_EQ(last->closes, 1);
   EXPECT_EQ(window->GetChildren(), (std::vector<HXObject*>{outer, last}));
+}
+
+TEST_F(HXWindowTest, ClosingIsNotToldToADialogOfTheWindow) {
+  auto* dialog = new RecordingWindow(window.get());
+  auto* panel = new RecordingPanel(dialog, {0, 0}, {50, 50});
+  dialog->SetVisible(true);
+  window->Close();
+  EXPECT_EQ(panel->closes, 0);
+  dialog->Close();
+  EXPECT_EQ(panel->closes, 1);
 }
 
 TEST_F(HXWindowTest, WindowMayBeDeletedInItsOwnCallbacks) {
