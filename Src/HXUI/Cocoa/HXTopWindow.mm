@@ -1,5 +1,7 @@
 #import "Src/HXUI/Cocoa/HXTopWindow.h"
 
+#include "Src/HXUI/Cocoa/PointerTrail.h"
+
 @implementation HXTopWindow
 
 - (void)setWorksInModal:(BOOL)works {
@@ -24,6 +26,13 @@
 // notice that its last window has gone.
 - (BOOL)canBecomeMainWindow {
   return !hasClosed;
+}
+
+- (void)resetCursorRects {
+  // GNUstep looks where the pointer is and takes that for the last event's place. The pointer
+  // may be inside of a widget by then, which the event that brings it there would no longer enter.
+  const PointerTrail trail(self);
+  [super resetCursorRects];
 }
 
 - (void)sendEvent:(NSEvent*)event {

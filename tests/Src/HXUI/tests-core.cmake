@@ -20,6 +20,7 @@ set(HXUI_CORE_TESTS
   HXViewTest.mm
   HXWindowTest.mm)
 if(GNUSTEP)
-  # The first makes an input of GNUstep's run loop fail, the second asks the X server.
-  list(APPEND HXUI_CORE_TESTS HXWindowModalTest.mm GNUstep/WindowOwnerTest.mm)
+  # The first makes an input of GNUstep's run loop fail, the others turn to the X server.
+  list(APPEND HXUI_CORE_TESTS HXWindowModalTest.mm GNUstep/PointerTrailTest.mm
+       GNUstep/WindowOwnerTest.mm)
 endif()
