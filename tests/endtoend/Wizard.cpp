@@ -11,6 +11,11 @@ constexpr Color kBar{70, 70, 70};
 constexpr Color kLine{100, 100, 100};
 constexpr Color kBlack{0, 0, 0};
 constexpr Color kBoxEdge{107, 110, 115};
+constexpr int kBoxX = 180;
+constexpr int kFirstBoxY = 115;
+constexpr int kRowHeight = 25;
+/// That fit above the buttons.
+constexpr int kMostRows = 7;
 
 enum class Face { kNone, kUsable, kDisabled };
 
@@ -88,6 +93,17 @@ Wizard::Page EndingPage(const Picture& picture) {
   return HasTextAt(picture, 95, 112) ? Wizard::Page::kFinish : Wizard::Page::kUnknown;
 }
 
+bool IsAnythingLit(const Picture& picture) {
+  for (int row = 0; row < kMostRows; ++row) {
+    if (picture.At(kBoxX, kFirstBoxY + kRowHeight * row) == Wizard::kWhite) return true;
+  }
+  for (const Area button :
+       {Wizard::kBack, Wizard::kNext, Wizard::kWideBack, Wizard::kWideNext, Wizard::kCancel}) {
+    if (picture.At(button.x + 2, button.y + 2) == Wizard::kHoveredFace) return true;
+  }
+  return false;
+}
+
 constexpr std::array<const char*, 7> kPageNames{"no page",     "welcome",  "agreement", "hosts",
                                                 "the summary", "progress", "finish"};
 constexpr std::array<const char*, 3> kRowNames{"absent", "unticked", "ticked"};
@@ -112,7 +128,7 @@ Wizard::Page Wizard::PageIn(const Picture& picture) {
 }
 
 Wizard::Row Wizard::RowIn(const Picture& picture, int row) {
-  const Area box{180, 115 + 25 * row, 14, 14};
+  const Area box{kBoxX, kFirstBoxY + kRowHeight * row, 14, 14};
   const Color edge = picture.At(box.x, box.y);
   if (edge != kBoxEdge && edge != kWhite) return Row::kAbsent;
   const int mark =
@@ -123,6 +139,16 @@ Wizard::Row Wizard::RowIn(const Picture& picture, int row) {
 Picture Wizard::Look() const {
   const std::optional<WindowId> window = desktop.FindWindow(kTitle);
   return window ? desktop.Capture(*window) : Picture();
+}
+
+Picture Wizard::LookWithoutPointer() const {
+  MoveTo(10, 10);
+  Picture picture;
+  EXPECT_TRUE(WaitUntil([this, &picture] {
+    picture = Look();
+    return picture.width == 500 && !IsAnythingLit(picture);
+  })) << "something is still lit up";
+  return picture;
 }
 
 bool Wizard::IsActive() const {

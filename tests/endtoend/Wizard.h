@@ -44,6 +44,8 @@ class Wizard {
   bool IsActive() const;
   /// Nothing of the window is covered when this is to be judged.
   Picture Look() const;
+  /// Takes the pointer to where nothing is, and looks when nothing is lit up by it any more.
+  Picture LookWithoutPointer() const;
   Page CurrentPage() const { return PageIn(Look()); }
   static Page PageIn(const Picture& picture);
 
