@@ -269,9 +269,9 @@ void HXControlFloat::TakeTypedText() {
 void HXControlFloat::OnClose() { editor->SetVisible(false); }
 
 void HXControlFloat::OnEventSink(HXEventSinkRecord& record) {
-  if (record.kind == kKeyUp && record.source == editor && growWhileEditing && IsEditing()) {
-    FitSize();
-  }
+  if (record.kind != kKeyUp || record.source != editor) return;
+  // A text that is too long does not stay.
+  if (growWhileEditing && IsEditing() && !editor->IsTooLong()) FitSize();
 }
 
 void HXControlFloat::OnTextBoxFocusLost(HXTextBox&) {

@@ -52,6 +52,7 @@ void HXTextControl::SelectAll() {
 }
 
 void HXTextControl::SetMaxLength(int length) { NativeText::SetMaxLength(textDelegate, length); }
+bool HXTextControl::IsTooLong() const { return NativeText::IsTooLong(textDelegate); }
 
 void HXTextControl::SetFont(const std::string& family, float size) {
   if (!multiLine) NativeText::SetFont(nativeView, family, size);

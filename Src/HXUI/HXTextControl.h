@@ -67,6 +67,8 @@ class HXTextControl : public HXPanel {
   /// In UTF-16 units, 100 at first. A change by the user that makes the text
   /// longer is undone as a whole. Does not touch the text that is there.
   void SetMaxLength(int length);
+  /// True for an event sink that hears (`kKeyUp`) of a change which is undone next.
+  bool IsTooLong() const;
   /// Of a single-line control, which has the platform's font otherwise; `size` in points. As
   /// `HXCocoaDC` finds fonts, so a text measured there is as wide here.
   void SetFont(const std::string& family, float size);

@@ -23,6 +23,7 @@ class HXTextControl;
 
 /// In UTF-16 units, 100 at first.
 - (void)setMaximumLength:(int)length;
+- (BOOL)isTooLong;
 /// Puts `text` into the field, whatever its length; an editing session goes on
 /// with the caret at `caret`. Changes that are too long fall back to it.
 - (void)showText:(NSString*)text caret:(NSUInteger)caret;

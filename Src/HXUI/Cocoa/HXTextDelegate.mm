@@ -64,6 +64,10 @@ int KeyOf(SEL command) {
   maximumLength = length;
 }
 
+- (BOOL)isTooLong {
+  return static_cast<NSInteger>([[self text] length]) > maximumLength;
+}
+
 - (void)setPreviousValue:(NSString*)value {
   NSString* copied = [value copy];
   [previousValue release];
@@ -98,7 +102,7 @@ int KeyOf(SEL command) {
 - (void)controlTextDidChange:(NSNotification*)notification {
   (void)notification;
   if (textField == nil) return;
-  if (static_cast<NSInteger>([[self text] length]) > maximumLength) {
+  if ([self isTooLong]) {
     [self takeBackChange];
   } else {
     [self setPreviousValue:[self text]];

@@ -35,6 +35,7 @@ std::string GetPlainText(NSView* textView);
 /// Of a field in a window; takes the keyboard if need be.
 void SelectAll(NSView* field);
 void SetMaxLength(HXTextDelegate* delegate, int length);
+bool IsTooLong(HXTextDelegate* delegate);
 /// Of a field.
 void SetFont(NSView* field, const std::string& family, float size);
 void SetTextColor(NSView* view, HXColor color);

@@ -157,6 +157,8 @@ void NativeText::SetMaxLength(HXTextDelegate* delegate, int length) {
   [delegate setMaximumLength:length];
 }
 
+bool NativeText::IsTooLong(HXTextDelegate* delegate) { return [delegate isTooLong] == YES; }
+
 void NativeText::SetFont(NSView* field, const std::string& family, float size) {
   [AsField(field) setFont:FontLookup::Find(family, false, false, size)];
 }

@@ -285,6 +285,10 @@ TEST_F(HXControlFloatEditingTest, GrowsWithTheTypedText) {
   expectFitted("1");
   Type(@"234567890");
   expectFitted("1234567890");
+  Type(@"1234567890");
+  expectFitted("12345678901234567890");
+  Type(@"1");
+  expectFitted("12345678901234567890");
 }
 
 TEST_F(HXControlFloatEditingTest, CanBeDeletedWhileItIsTypedInto) {
