@@ -1,4 +1,7 @@
 #include "Src/HXUI/HXScrollBar.h"
+
+#include <array>
+
 #include "tests/Src/HXUI/ScrollBarFixture.h"
 
 namespace {
@@ -191,6 +194,49 @@ TEST_F(HXScrollBarMouseTest, HeldBottomArrowScrollsDownUntilThePointerLeaves) {
   const std::int32_t y = ContentAt().y;
   WaitForAnyTimer();
   EXPECT_EQ(ContentAt().y, y);
+}
+
+TEST_F(HXScrollBarMouseTest, EachRepeatScrollsOneNotch) {
+  for (const auto& [y, pressed, repeated] : {std::array{5, -992, -982}, {235, -1008, -1018}}) {
+    Make(2000, -1000);
+    bar->SetArrowSize(17);
+    Draw(*bar);
+    SendMouse(NSLeftMouseDown, *bar, {8, y});
+    EXPECT_EQ(ContentAt().y, pressed);
+    bar->OnTimer(kRepeatTimer);
+    // The animation of the press has not ended yet, so this waits for its tick.
+    EXPECT_EQ(ContentAt().y, pressed);
+    bar->OnTimer(kStepTimer);
+    EXPECT_EQ(ContentAt().y, repeated);
+    SendMouse(NSLeftMouseUp, *bar, {8, y});
+    delete bar;
+  }
+}
+
+TEST_F(HXScrollBarMouseTest, RepeatBeforeAnyPressDoesNothing) {
+  Make(2000, -1000);
+  bar->SetArrowSize(17);
+  Draw(*bar);
+  bar->OnTimer(kRepeatTimer);
+  bar->OnTimer(kStepTimer);
+  EXPECT_EQ(ContentAt().y, -1000);
+}
+
+TEST_F(HXScrollBarMouseTest, RepeatComesAfterTwentyAndBeforeSixtyMilliseconds) {
+  Make(2000, -1000);
+  bar->SetArrowSize(17);
+  Draw(*bar);
+  // Timers that are late fire in the order in which they were started, so it
+  // does not matter how late these are.
+  std::int32_t before = 0;
+  std::int32_t after = 0;
+  Later([&] { before = ContentAt().y; }, 0.02);
+  SendMouse(NSLeftMouseDown, *bar, {8, 5});
+  Later([&] { after = ContentAt().y; }, 0.06);
+  RunTimersUntil([&] { return after != 0; });
+  EXPECT_EQ(before, -992);
+  EXPECT_GT(after, -992);
+  SendMouse(NSLeftMouseUp, *bar, {8, 5});
 }
 
 }  // namespace

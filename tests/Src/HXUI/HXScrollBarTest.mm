@@ -186,13 +186,31 @@ TEST_F(HXScrollBarTest, ShortContentStaysAtTheTop) {
   EXPECT_EQ(ContentAt().y, 0);
 }
 
-TEST_F(HXScrollBarTest, ScrollingRedrawsTheThumb) {
+TEST_F(HXScrollBarTest, EachStepDrawsTheThumbAtOnce) {
   Make(480);
   Draw(*bar);
   bar->ScrollBy(-12000);
   EXPECT_FALSE(NeedsDisplay(*bar));
+  EXPECT_EQ(ThumbRows(*ReadBack(*bar)), (HXRect{2, 50, 1, 120}));
+  bar->OnTimer(kStepTimer);
+  EXPECT_FALSE(NeedsDisplay(*bar));
+  EXPECT_EQ(ThumbRows(*ReadBack(*bar)), (HXRect{2, 95, 1, 120}));
   WaitForContentAt(-240);
-  EXPECT_EQ(ThumbRows(*Draw(*bar)).y, 120);
+  EXPECT_EQ(ThumbRows(*ReadBack(*bar)), (HXRect{2, 120, 1, 120}));
+}
+
+TEST_F(HXScrollBarTest, NextStepComesAfterFiveAndBeforeTwentyMilliseconds) {
+  Make(2000, -1000);
+  // Timers that are late fire in the order in which they were started, so it
+  // does not matter how late these are.
+  std::size_t before = 0;
+  std::size_t after = 0;
+  Later([&] { before = content->steps.size(); }, 0.005);
+  bar->ScrollBy(-1200);
+  Later([&] { after = content->steps.size(); }, 0.02);
+  RunTimersUntil([&] { return after != 0; });
+  EXPECT_EQ(before, 1U);
+  EXPECT_GT(after, 1U);
 }
 
 TEST_F(HXScrollBarTest, MayBeDeletedDuringTheAnimation) {
@@ -215,6 +233,17 @@ TEST_F(HXScrollBarTest, ThumbPositionMovesTheContentInProportion) {
   EXPECT_EQ(ContentAt(), (HXPoint{0, 0}));
   bar->SetThumbPosition(1000, false);
   EXPECT_EQ(ContentAt(), (HXPoint{0, -240}));
+}
+
+TEST_F(HXScrollBarTest, ThumbPositionDrawsContentAndThumbAtOnce) {
+  Make(480);
+  Draw(*area);
+  content->draws = 0;
+  bar->SetThumbPosition(60, false);
+  EXPECT_EQ(content->draws, 1);
+  EXPECT_FALSE(NeedsDisplay(*content));
+  EXPECT_FALSE(NeedsDisplay(*bar));
+  EXPECT_EQ(ThumbRows(*ReadBack(*bar)), (HXRect{2, 60, 1, 120}));
 }
 
 TEST_F(HXScrollBarTest, ThumbPositionCountsFromTheArrowZone) {
@@ -287,6 +316,7 @@ TEST_F(HXScrollBarTest, LineInAScrolledViewMovesAllTheSame) {
 
 TEST_F(HXScrollBarTest, LineBeyondTheContentIsLimitedToItsHeight) {
   Make(1000);
+  Draw(*bar);
   bar->SetThumbPosition(50000, true);
   EXPECT_EQ(ContentAt().y, -1000);
   EXPECT_TRUE(NeedsDisplay(*bar));

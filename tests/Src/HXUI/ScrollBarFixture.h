@@ -12,6 +12,9 @@
 
 inline constexpr std::int32_t kHeight = 240;
 inline constexpr std::int32_t kWidth = 17;
+// What the bar's own timers tell it.
+inline constexpr int kRepeatTimer = 1;
+inline constexpr int kStepTimer = 2;
 inline constexpr HXColor kBlack{0, 0, 0, 255};
 inline constexpr HXColor kTrack{17, 18, 20, 255};
 inline constexpr HXColor kPart{37, 38, 42, 255};
@@ -19,7 +22,7 @@ inline constexpr HXColor kHovered{46, 48, 51, 255};
 inline constexpr HXColor kGrip{80, 80, 80, 255};
 inline constexpr HXColor kTriangle{222, 222, 222, 255};
 
-/// Remembers how far each `SetPosition` moved it.
+/// Remembers how far each `SetPosition` moved it, and counts its drawings.
 class ScrolledContent : public HXPanel {
  public:
   using HXPanel::HXPanel;
@@ -27,7 +30,12 @@ class ScrolledContent : public HXPanel {
     steps.push_back(position.y - GetPosition().y);
     HXPanel::SetPosition(position);
   }
+  void Draw() override {
+    ++draws;
+    HXPanel::Draw();
+  }
   std::vector<std::int32_t> steps;
+  int draws = 0;
 };
 
 /// Counts the ticks of a timer of its own.

@@ -66,10 +66,13 @@ class ToolkitFixture : public ::testing::Test {
 
   /// Draws the widget (and what lies in it) now and reads it back.
   std::unique_ptr<DrawnPixels> Draw(HXObject& widget);
+  /// Reads back what is there of the widget without drawing anything.
+  std::unique_ptr<DrawnPixels> ReadBack(HXObject& widget);
 
-  /// Calls `action` from within the run loop, once, as soon as events are served;
-  /// for acting inside a modal run.
-  static void Later(std::function<void()> action);
+  /// Calls `action` from within the run loop, once, as soon as events are served
+  /// or after a platform timer of `seconds`; for acting inside a modal run, and
+  /// for seeing what has fired by then.
+  static void Later(std::function<void()> action, double seconds = 0);
 
   std::unique_ptr<HXWindow> window;
 

@@ -168,8 +168,12 @@ void ToolkitFixture::SendKeyUp(HXWindow& target, NSString* characters) {
 }
 
 std::unique_ptr<DrawnPixels> ToolkitFixture::Draw(HXObject& widget) {
+  [widget.GetNativeView() display];
+  return ReadBack(widget);
+}
+
+std::unique_ptr<DrawnPixels> ToolkitFixture::ReadBack(HXObject& widget) {
   NSView* view = widget.GetNativeView();
-  [view display];
   [view lockFocus];
   NSBitmapImageRep* rep =
       [[[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]] autorelease];
@@ -177,8 +181,8 @@ std::unique_ptr<DrawnPixels> ToolkitFixture::Draw(HXObject& widget) {
   return std::make_unique<DrawnPixels>(rep);
 }
 
-void ToolkitFixture::Later(std::function<void()> action) {
+void ToolkitFixture::Later(std::function<void()> action, double seconds) {
   LaterAction* later = [[[LaterAction alloc] init] autorelease];
   later->action = new std::function<void()>(std::move(action));
-  [later performSelector:@selector(run) withObject:nil afterDelay:0];
+  [later performSelector:@selector(run) withObject:nil afterDelay:seconds];
 }
