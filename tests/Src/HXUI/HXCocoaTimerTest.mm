@@ -65,6 +65,23 @@ TEST_F(HXCocoaTimerTest, FiresNotBeforeItsInterval) {
   EXPECT_GE(MillisecondsSince(start), 58);
 }
 
+TEST_F(HXCocoaTimerTest, FiresBeforeAPlatformTimerOfALongerInterval) {
+  HXCocoaTimer timer;
+  timer.SetOwner(owner, 1);
+  timer.Start(60, true);
+  // Started last and due last: it fires last, however late both are.
+  bool ended = false;
+  bool wasRunning = true;
+  Later(
+      [&] {
+        wasRunning = timer.IsRunning();
+        ended = true;
+      },
+      0.09);
+  PumpUntil([&] { return ended; }, "the platform's timer");
+  EXPECT_FALSE(wasRunning);
+}
+
 TEST_F(HXCocoaTimerTest, OneShotFiresOnce) {
   HXCocoaTimer once;
   once.SetOwner(owner, 1);
@@ -132,7 +149,11 @@ TEST_F(HXCocoaTimerTest, IntervalOfZeroFiresAtOnce) {
   HXCocoaTimer timer;
   timer.SetOwner(owner, 1);
   timer.Start(0, false);
+  HXCocoaTimer other;
+  other.SetOwner(owner, 2);
+  other.Start(200, true);
   PumpTicks(3);
+  EXPECT_EQ(owner->timers.front(), 1);
 }
 
 TEST_F(HXCocoaTimerTest, TimersOfOneOwnerAreToldApartByTheirIds) {
