@@ -60,6 +60,30 @@ TEST_F(HXTextPanelTest, MeasuresTwentyPixelsNarrowerThanItDraws) {
   EXPECT_GT(panel->GetSize().height, Measure(text, 0));
 }
 
+TEST_F(HXTextPanelTest, WordMayBeMeasuredInTwoLinesAndStandInOne) {
+  panel->SetText("w");
+  const std::int32_t oneLine = panel->GetSize().height;
+  // Grows a letter at a time until it is wider than the narrower box.
+  std::string word = "w";
+  while (Measure(word, 20) == oneLine) {
+    word += "w";
+    ASSERT_LT(word.size(), 200U);
+  }
+  panel->SetText(word);
+  EXPECT_GE(panel->GetSize().height, 2 * oneLine - 2);
+  const HXRect ink = Draw(*panel)->InkBounds(All(), kBackground);
+  EXPECT_LT(ink.height, oneLine);
+  EXPECT_GT(ink.width, 150);
+}
+
+TEST_F(HXTextPanelTest, WordWiderThanThePanelGoesOnInTheNextLine) {
+  panel->SetText("w");
+  const std::int32_t oneLine = panel->GetSize().height;
+  panel->SetText(std::string(60, 'w'));
+  EXPECT_GE(panel->GetSize().height, 3 * oneLine - 3);
+  EXPECT_GT(Draw(*panel)->InkBounds(All(), kBackground).height, oneLine);
+}
+
 TEST_F(HXTextPanelTest, LongTextWrapsWithinThePanel) {
   panel->SetText("The plug-in will be installed into the folders of all the hosts that are "
                  "chosen on the page before this one.");
