@@ -74,13 +74,20 @@ TEST_F(HXSystemButtonTest, LabelStandsInTheMiddle) {
 
 TEST_F(HXSystemButtonTest, LabelFontCanBeChanged) {
   HXSystemButton* button = Make("H");
-  const HXRect bold = Draw(*button)->InkBounds(kAll, kFace);
+  const HXRect small = Draw(*button)->InkBounds(kAll, kFace);
   button->SetLabelFont(0, 20);
   const HXRect large = Draw(*button)->InkBounds(kAll, kFace);
-  EXPECT_GT(large.height, bold.height + 4);
+  EXPECT_GT(large.height, small.height + 4);
+}
+
+TEST_F(HXSystemButtonTest, LabelStyleCanBeChanged) {
+  HXSystemButton* button = Make("I ACCEPT");
+  const auto bold = Draw(*button);
   button->SetLabelFont(0, 11);
-  EXPECT_LT(Draw(*button)->Ink(kAll, kFace), bold.width * bold.height);
-  EXPECT_LE(Draw(*button)->InkBounds(kAll, kFace).width, bold.width);
+  const auto regular = Draw(*button);
+  EXPECT_LT(regular->InkBounds(kAll, kFace).width, bold->InkBounds(kAll, kFace).width);
+  button->SetLabelFont(HXCocoaDC::kBold, 11);
+  EXPECT_EQ(CountUnlike(*Draw(*button), *bold), 0);
 }
 
 TEST_F(HXSystemButtonTest, SetLabelReplacesTheLabelWithoutRedrawing) {
