@@ -55,6 +55,12 @@ TEST_F(HXInputDialogTest, HoldsABoxAndTwoButtons) {
   EXPECT_EQ(dialog.GetValue(), "");
 }
 
+TEST_F(HXInputDialogTest, StandsInTheMiddleOfTheScreen) {
+  const HXInputDialog dialog(window.get(), "Name", nullptr);
+  const NSRect screen = [[NSScreen mainScreen] frame];
+  EXPECT_NEAR(dialog.GetPosition().x + dialog.GetSize().width / 2.0, NSMidX(screen), 10);
+}
+
 TEST_F(HXInputDialogTest, NoInitialTextIsAnEmptyBox) {
   const HXInputDialog dialog(window.get(), "Name", nullptr);
   EXPECT_EQ(Box(dialog).GetText(), "");
