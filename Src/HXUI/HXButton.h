@@ -10,11 +10,11 @@
 /// `kLeftUp` as the click.
 class HXButton : public HXPanel {
  public:
-  /// `bytes` hold an encoded picture (PNG, or what else the platform reads)
-  /// and are copied. The widget takes the picture's size in pixels, whatever
-  /// `size` says; with `twoFaces` the picture holds two faces of equal width
-  /// side by side and the widget is half as wide. An undecodable picture gives
-  /// a widget of 0 by 0.
+  /// `bytes` hold a picture as `HXBitmap::LoadFromBytes` takes it and are
+  /// copied. The widget takes the picture's size in pixels, whatever `size`
+  /// says; with `twoFaces` the picture holds two faces of equal width side by
+  /// side and the widget is half as wide. An undecodable picture gives a widget
+  /// of 0 by 0.
   HXButton(HXObject* parent, HXPoint position, HXSize size, const unsigned char* bytes,
            std::uint32_t length, bool twoFaces);
 

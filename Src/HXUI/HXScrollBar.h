@@ -31,9 +31,10 @@ class HXScrollBar : public HXPanel {
   /// once, the others follow every 10 ms.
   void ScrollBy(std::int64_t delta);
   /// Without `ensureVisible`, `y` is where the thumb's top is to be, in the
-  /// bar's coordinates. With it, `y` is a line of the content, which moves only
-  /// when that line and the 50 pixels below it are not in view. Limited to the
-  /// content's ends. Redraws both widgets.
+  /// bar's coordinates. With it, `y` is a line of the content, which moves as
+  /// far as it takes to see that line and the 50 pixels below it. A content at
+  /// its top stays when they are in view; one that is scrolled already may move
+  /// even then. Limited to the content's ends. Redraws both widgets.
   void SetThumbPosition(std::int32_t y, bool ensureVisible);
 
   void Draw() override;

@@ -15,10 +15,11 @@
 /// Keys of a single-line control: Return arrives in `OnKeyDown` as
 /// `kKeyInsertNewline`, Escape as `kKeyEscape`, Tab and Shift-Tab as `kKeyTab`
 /// and `kKeyBackTab`; what a key would type arrives as that key's UTF-16 unit
-/// before it is inserted, except in a password field, whose keys concern
-/// nobody else. Every key passes the event sinks first, as `kKeyDown`; after
-/// each change of the text they see a `kKeyUp` with parameter 0 (again not for
-/// a password).
+/// before it is inserted, except in a password field, whose characters concern
+/// nobody else. Each of these passes the event sinks first, as `kKeyDown`. The
+/// keys that only edit or move the caret (Backspace, Delete, the arrows) reach
+/// the field unasked. After each change of the text the sinks see a `kKeyUp`
+/// with parameter 0 (again not for a password).
 ///
 /// Focus of a single-line control: `OnFocusGained` when the field gets the
 /// keyboard, `OnFocusLost` once when editing ends. Return does not end it, nor
@@ -35,7 +36,8 @@ class HXTextControl : public HXPanel {
     kPassword = 4,
     /// Without it there is neither bezel nor border.
     kBezeled = 8,
-    /// Takes rich text; the four other flags are ignored then.
+    /// Takes rich text; `kCentred`, `kPassword`, `kBezeled` and `kNoFocusRing`
+    /// are ignored then.
     kMultiLine = 32,
     kNoFocusRing = 64,
   };
