@@ -158,6 +158,13 @@ TEST_F(HXBitmapTest, TheBytesAreCopied) {
   EXPECT_EQ(CountDifferences(*PaintBitmap(bitmap, {20, 20}), *PaintBitmap(other, {20, 20})), 0);
 }
 
+TEST_F(HXBitmapTest, PicturesFromBytesAndEmptyOnesAreMarkedFlipped) {
+  HXBitmap bitmap(kSearchPng.bytes, kSearchPng.length);
+  EXPECT_TRUE([bitmap.GetImage() isFlipped]);
+  bitmap.CreateEmpty({30, 7});
+  EXPECT_TRUE([bitmap.GetImage() isFlipped]);
+}
+
 TEST_F(HXBitmapTest, AGifWithoutPaletteDoesNoHarm) {
   const unsigned char gif[] = {'G', 'I', 'F',  '8',  '9',  'a',  1,    0, 1,   0,
                                0,   0,   0,    0x2C, 0,    0,    0,    0, 1,   0,
@@ -271,6 +278,18 @@ TEST_F(HXBitmapTest, FilesAreDrawnUprightLikeBytes) {
   const HXBitmap bytes(kBannerPng.bytes, kBannerPng.length);
   EXPECT_EQ(bitmap.GetPixelSize(), (HXSize{160, 310}));
   EXPECT_EQ(CountDifferences(*PaintBitmap(bitmap, {170, 290}), *PaintBitmap(bytes, {170, 290})), 0);
+}
+
+TEST_F(HXBitmapTest, PicturesFromFilesAreNotMarkedFlippedUntilTheyAreLocked) {
+  Folder folder;
+  const std::string readable = folder.Write("search.png", BytesOf(kSearchPng));
+  for (const std::string& path : {readable, folder.path + "/missing.png"}) {
+    HXBitmap bitmap(kSearchPng.bytes, kSearchPng.length);
+    bitmap.LoadFromFile(path);
+    EXPECT_FALSE([bitmap.GetImage() isFlipped]) << path;
+    bitmap.LockPixels();
+    EXPECT_TRUE([bitmap.GetImage() isFlipped]) << path;
+  }
 }
 
 TEST_F(HXBitmapTest, AFileThatCannotBeReadIsAnEmptyPictureOfOneByOne) {
