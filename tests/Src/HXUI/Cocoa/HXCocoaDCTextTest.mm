@@ -243,7 +243,7 @@ TEST_F(HXCocoaDCTextTest, LooksAreToldApartWhenDrawnAgain) {
   for (int pass = 0; pass < 2; ++pass) {
     std::size_t index = 0;
     for (const HXColor color : {kWhite, kRed}) {
-      for (const std::uint32_t style : {0U, 1U, 4U}) {
+      for (const std::uint32_t style : {0U, 1U, 2U, 4U}) {
         for (const std::uint32_t flags : {0U, 1U, 2U}) {
           auto pixels = Paint({120, 40}, [=](HXCocoaDC& dc) {
             dc.SetFont("Verdana", style, kFontSize);
@@ -284,6 +284,18 @@ TEST_F(HXCocoaDCTextTest, BoldTextHasMoreInkAndUnderlineAddsALine) {
   EXPECT_GT(ink(HXCocoaDC::kBold).width, plain.width);
   EXPECT_EQ(ink(HXCocoaDC::kUnderline).y, plain.y);
   EXPECT_GT(ink(HXCocoaDC::kUnderline).height, plain.height);
+}
+
+TEST_F(HXCocoaDCTextTest, ItalicTextHasTheItalicFace) {
+  const auto pixels = Paint({120, 40}, [](HXCocoaDC& dc) {
+    dc.SetFont("Verdana", HXCocoaDC::kItalic, kFontSize);
+    dc.SetTextColor(kWhite);
+    dc.DrawText("Hxg Ölpreis", {10, 9, 0, 0}, 0);
+  });
+  const auto expected = PaintNativeText({120, 40}, @"Hxg Ölpreis", NSMakePoint(11, 7),
+                                        FontLookup::Find("Verdana", false, true, kFontSize));
+  EXPECT_EQ(CountDifferences(*pixels, *expected), 0);
+  EXPECT_GT(CountDifferences(*pixels, *PaintText({120, 40}, "Hxg Ölpreis", {10, 9, 0, 0}, 0)), 0);
 }
 
 // Measuring
