@@ -210,15 +210,6 @@ TEST_F(HXCocoaDCTextTest, AFirstLineThatIsTooHighIsCut) {
   EXPECT_EQ(cut.y + cut.height, 14);
 }
 
-TEST_F(HXCocoaDCTextTest, TruncationKeepsComposedCharactersWhole) {
-  const HXRect rect{5, 5, 60, 14};
-  const auto accented = PaintText(
-      {80, 40}, "e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301", rect, 0);
-  const auto emoji = PaintText({80, 40}, "😀😀😀😀😀😀😀😀😀😀😀😀😀😀", rect, 0);
-  EXPECT_GT(accented->Ink(AllOf(*accented), kBlack), 20);
-  EXPECT_GT(emoji->Ink(AllOf(*emoji), kBlack), 0);
-}
-
 TEST_F(HXCocoaDCTextTest, InvalidAndEmptyTextDrawNothing) {
   for (const char* text : {"", "\xFF\xFE", "abc\xC3"}) {
     EXPECT_EQ(TextInk(text, {10, 10, 0, 0}, 0), HXRect{}) << text;

@@ -89,6 +89,24 @@ TEST_F(TextExtentsTest, ShortenedTextIsTheLongestBeginningThatFits) {
   }
 }
 
+TEST_F(TextExtentsTest, ShortenedTextKeepsComposedCharactersWhole) {
+  const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
+  // The second one's mark takes room of its own: a box may have it for the letter alone.
+  for (const std::string character : {"e\u0301", "e\u0489", "😀"}) {
+    std::string text;
+    for (int i = 0; i < 20; ++i) text += character;
+    int cut = 0;
+    for (int width = 20; width < 100; ++width) {
+      const std::string shortened = TextExtents::Shortened(text, look, NSMakeSize(width, 16));
+      std::string whole = "…";
+      while (whole.size() < shortened.size()) whole.insert(0, character);
+      EXPECT_EQ(shortened, whole) << width;
+      if (shortened.size() > std::string("…").size()) ++cut;
+    }
+    EXPECT_GT(cut, 50) << character;
+  }
+}
+
 TEST_F(TextExtentsTest, ABoxAsHighAsTheTextIsHighEnough) {
   const TextLook look{.font = FontLookup::Find("Verdana", false, false, 11)};
   const NSSize box = NSMakeSize(120, Fresh("…", look, NSMakeSize(120, 1000)).height);
