@@ -82,6 +82,16 @@ TEST_F(HXViewTest, IsFlippedAndTakesKeysAndTheActivatingClick) {
   EXPECT_EQ([view getObject], panel);
 }
 
+TEST_F(HXViewTest, TheMouseHookRunsWithTheCodeAndItsSender) {
+  RecordingOwner owner;
+  panel->SetHook(&owner, &RecordingOwner::OnEvent, 7);
+  [View(window.get()) sendToMouseHook:panel event:kRightUp];
+  EXPECT_THAT(owner.events, ElementsAre(kRightUp));
+  EXPECT_EQ(owner.GetSender(), panel);
+  EXPECT_EQ(owner.GetSenderId(), 7U);
+  EXPECT_THAT(panel->kinds, IsEmpty()) << "the hook only";
+}
+
 // The wheel
 
 TEST_F(HXViewTest, WheelReachesSinksOnlyAs120PerLine) {
