@@ -3,8 +3,10 @@
 #include <cstdint>
 
 /// What the pointer did. The numbers are those that the notification hook and
-/// the event sinks receive. `kLeftUp` reaches a widget only after a press on
+/// the event sinks receive. `kLeftUp` reaches a widget only after a `kLeftDown` on
 /// the same widget that the pointer has not left: owners take it as the click.
+/// Whoever holds the mouse capture gets each `kLeftUp`, wherever the press was,
+/// and nobody is told of entering and leaving meanwhile.
 enum MouseKind : std::uint32_t {
   kMouseMove = 0,
   kLeftDown = 1,
