@@ -61,6 +61,8 @@ TEST(HXSemaphoreTest, EverySignalLetsExactlyOneWaiterGo) {
 }
 
 #ifdef __linux__
+int OwnThreadId() { return gettid(); }
+
 /// True when the thread sleeps, by what the kernel says about it.
 bool Sleeps(int threadId) {
   std::ifstream file("/proc/self/task/" + std::to_string(threadId) + "/stat");
@@ -79,7 +81,7 @@ TEST(HXSemaphoreTest, WakesWaitersInTheOrderInWhichTheyCame) {
   for (int i = 0; i < kWaiters; ++i) {
     std::atomic<int> threadId{0};
     waiters.emplace_back([&, i] {
-      threadId = gettid();
+      threadId = OwnThreadId();
       semaphore.Wait();
       order.push_back(i);
       done.Signal();
@@ -93,36 +95,49 @@ TEST(HXSemaphoreTest, WakesWaitersInTheOrderInWhichTheyCame) {
   for (std::thread& waiter : waiters) waiter.join();
   EXPECT_EQ(order, (std::vector<int>{0, 1, 2, 3, 4, 5}));
 }
+#else
+int OwnThreadId() { return 1; }
+
+/// There is no simple way to ask here: gives the thread time to fall asleep.
+bool Sleeps(int) {
+  for (int i = 0; i < 1000; ++i) std::this_thread::yield();
+  return true;
+}
 #endif
 
-void Ignore(int) {}
+std::atomic<int> interruptions{0};
 
-TEST(HXSemaphoreTest, WaitGoesOnAfterAnInterruption) {
-  struct sigaction ignore = {};
+void Count(int) { ++interruptions; }
+
+TEST(HXSemaphoreTest, ASleepingWaiterGoesOnWaitingAfterAnInterruption) {
+  struct sigaction count = {};
   struct sigaction former = {};
-  ignore.sa_handler = Ignore;
-  ASSERT_EQ(sigaction(SIGUSR1, &ignore, &former), 0);
+  count.sa_handler = Count;
+  ASSERT_EQ(sigaction(SIGUSR1, &count, &former), 0);
+  interruptions = 0;
   HXSemaphore semaphore;
-  std::atomic<bool> started{false};
-  std::atomic<bool> signalled{false};
-  std::atomic<bool> passedEarly{false};
+  std::atomic<int> threadId{0};
+  std::atomic<bool> passed{false};
   std::atomic<int> status{-1};
   std::thread waiter([&] {
-    started = true;
+    threadId = OwnThreadId();
     status = semaphore.Wait();
-    passedEarly = !signalled;
+    passed = true;
   });
-  while (!started) std::this_thread::yield();
-  for (int i = 0; i < 50; ++i) {
+  const auto waitUntilAsleep = [&] {
+    while (!passed && (threadId == 0 || !Sleeps(threadId))) std::this_thread::yield();
+  };
+  for (int i = 1; i <= 20; ++i) {
+    waitUntilAsleep();
     pthread_kill(waiter.native_handle(), SIGUSR1);
-    std::this_thread::yield();
+    while (!passed && interruptions < i) std::this_thread::yield();
   }
-  signalled = true;
+  waitUntilAsleep();
+  EXPECT_FALSE(passed);
   semaphore.Signal();
   waiter.join();
   sigaction(SIGUSR1, &former, nullptr);
   EXPECT_EQ(status, 0);
-  EXPECT_FALSE(passedEarly);
 }
 
 }  // namespace
