@@ -53,5 +53,6 @@ int main(int argc, char** argv) {
   Print("user data", GetDataPath(1));
   Print("documents", GetAssetsPath(1));
   Print("shared documents", GetAssetsPath(2));
+  Print("assets", GetAssetsPath(0));
   return 0;
 }

@@ -48,6 +48,12 @@ void PretendMachine::AddPreferences(const std::string& content) {
   folder.AddFile("machine/Library/Preferences/com.Adobe.After Effects.paths.plist", content);
 }
 
+void PretendMachine::AddAssetsPreference(const std::string& content) {
+  const std::string maker = "machine/Library/ApplicationSupport/Halvorix";
+  std::filesystem::create_directories(folder.Path(maker));
+  folder.AddFile(maker + "/ostrel_assets_path", content);
+}
+
 void PretendMachine::RegisterApplications() { Run("make_services"); }
 
 std::vector<std::string> PretendMachine::Probe(const std::string& document) {

@@ -19,6 +19,8 @@ class PretendMachine {
                       const std::string& extension = "aep");
   /// Adds the host's preference file with `content`.
   void AddPreferences(const std::string& content);
+  /// Adds the file in which other software of the maker keeps the assets folder.
+  void AddAssetsPreference(const std::string& content);
   /// Makes the system's list of applications anew.
   void RegisterApplications();
   /// Runs the probe for a document called `document` and returns its lines.

@@ -5,6 +5,7 @@
 
 #include "installer/Cocoa/PlatformHostSources.h"
 #include "installer/HostCatalogue.h"
+#include "tests/installer/EnvironmentVariable.h"
 #include "tests/installer/PretendMachine.h"
 
 namespace {
@@ -69,6 +70,15 @@ TEST_F(PlatformHostSourcesTest, DataFoldersAreThoseOfTheMachineAndTheUser) {
   EXPECT_THAT(lines, Contains(StartsWith("documents /")));
   EXPECT_THAT(lines, Contains(StartsWith("shared documents " +
                                          machine.folder.Path("machine/Users/Shared/"))));
+}
+
+TEST_F(PlatformHostSourcesTest, ReadsTheAssetsFolderInTheMachinesApplicationSupport) {
+  const EnvironmentVariable userPath("OSTREL_USER_PATH", "/variable");
+  EXPECT_THAT(machine.Probe("AEFile.aep"), Contains("assets /variable"));
+  machine.AddAssetsPreference("{ AssetsPath = \"/Preferred ä\"; }");
+  EXPECT_THAT(machine.Probe("AEFile.aep"), Contains("assets /Preferred ä"));
+  machine.AddAssetsPreference("{ AssetsPath = \"/Preferred");
+  EXPECT_THAT(machine.Probe("AEFile.aep"), Contains("assets /variable"));
 }
 
 TEST_F(PlatformHostSourcesTest, AProgramWithoutTheMarkerDocumentHasNone) {
