@@ -296,12 +296,22 @@ TEST_F(InstallationRunTest, PipesOfHostToolsStayOpenAndTheOthersAreClosed) {
   EXPECT_EQ(world.CountOpenPipes(), 8U);
 }
 
-TEST_F(InstallationRunTest, AMissingPluginIsCopiedFromNowhereAndDoesNotFailTheRun) {
+TEST_F(InstallationRunTest, AMissingPluginIsAnEmptyPathAndTheLaunchAloneDecides) {
   Select(3, "/AE");
-  world.hasResources = false;
-  Run();
-  EXPECT_THAT(world.log, testing::Contains("/usr/bin/ditto [] [/AE/Halvorix/Ostrel.plugin]"));
-  ExpectEnd(kDataFolderStep, false);
+  for (const int status : {0, -60031}) {
+    SCOPED_TRACE(status);
+    InstallerState fresh;
+    fresh.hostSelected = state.hostSelected;
+    fresh.hostPath = state.hostPath;
+    RecordingWorld machine(fresh);
+    machine.hasResources = false;
+    machine.launchStatus = [status](const std::string& tool, const std::string&) {
+      return tool == "/usr/bin/ditto" ? status : 0;
+    };
+    RunInstallation(fresh, machine);
+    EXPECT_THAT(machine.log, testing::Contains("/usr/bin/ditto [] [/AE/Halvorix/Ostrel.plugin]"));
+    EXPECT_EQ(fresh.installFailed.load(), status != 0);
+  }
 }
 
 TEST_F(InstallationRunTest, SelectionsAreOnlyRead) {
