@@ -328,4 +328,13 @@ TEST_F(InstallationRunTest, SelectionsAreOnlyRead) {
   EXPECT_EQ(state.assetsPath, "/Assets");
 }
 
+TEST_F(InstallationRunTest, TheAssetsFolderIsLeftAlone) {
+  Select(3, "/AE");
+  state.assetsChoice = {false, false, true};
+  state.assetsPath = "/Assets";
+  world.existing = {"/Assets", "/Data1/Halvorix"};
+  Run();
+  EXPECT_THAT(world.log, testing::Each(testing::Not(testing::HasSubstr("/Assets"))));
+}
+
 }  // namespace
