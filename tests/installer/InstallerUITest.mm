@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Src/HXUI/HXComboBox.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 #include "tests/installer/WizardFixture.h"
 
 namespace {
@@ -130,6 +131,21 @@ TEST_F(InstallerUITest, BitnessListIsHiddenWithBothBitnesses) {
   ASSERT_EQ(list->GetItems().size(), 2U);
   EXPECT_EQ(list->GetItems()[0].text, "32-bit");
   EXPECT_EQ(list->GetItems()[1].text, "64-bit");
+}
+
+TEST_F(InstallerUITest, BitnessListShowsTheBitnessOfTheCustomPlugin) {
+  BuildAndShow();
+  GoToHosts();
+  auto* list = ChildOf<HXComboBox>(HostPanel());
+  list->SetVisible(true);
+  for (std::int32_t bitness : {0, 1}) {
+    ui->customBitness = bitness;
+    const auto drawn = Draw(*list);
+    HXComboBox expected(window.get(), {0, 0}, "32-bit|64-bit", &bitness, true);
+    expected.SetSize({60, 17});
+    // The corners of the face let the ground show.
+    EXPECT_EQ(CountUnlike(*drawn, *Draw(expected), {4, 1, 36, 13}), 0) << bitness;
+  }
 }
 
 TEST_F(InstallerUITest, LicencePanelHoldsTheAgreementBesideItsScrollBar) {
