@@ -75,6 +75,12 @@ TEST(PrivilegedToolTest, ANumberOutOfRangeGivesMinusOne) {
   EXPECT_EQ(PidFrom("-99999999999999999999999\n"), -1);
 }
 
+TEST(PrivilegedToolTest, ANumberOfMoreThan32BitsIsWhatAtoiMakesOfIt) {
+  for (const char* number : {"4294967297", "-4294967298", "2147483648"}) {
+    EXPECT_EQ(PidFrom(number), std::atoi(number)) << number;
+  }
+}
+
 TEST(PrivilegedToolTest, AnOldErrorDoesNotSpoilTheNumber) {
   errno = ERANGE;
   EXPECT_EQ(PidFrom("42\n"), 42);
