@@ -12,9 +12,10 @@
 ///
 /// The selections and paths belong to the main thread; the run only reads
 /// them, and the wizard does not change them while a run is under way. The
-/// four status members are written by the run's thread and read by the main
-/// thread without a lock: `installDone` is written last, with release order,
-/// so whoever sees it set sees the end of the run.
+/// status members are written by the run's thread, or by the main thread when
+/// none can be made, and read by the main thread without a lock: `installDone`
+/// is written last, with release order, so whoever sees it set sees the end of
+/// the run. Nobody writes `installError`.
 struct InstallerState {
   /// One flag (0 or 1) per slot, bound to the check boxes of the host page.
   std::array<std::uint8_t, kHostSlotCount> hostSelected{};
@@ -31,7 +32,7 @@ struct InstallerState {
 
   /// Slot being installed, `kDataFolderStep`, or -1 before the first step.
   std::atomic<std::int32_t> installStep{-1};
-  /// Number shown in the error message. The run never writes it.
+  /// Number shown in the error message; always 0.
   std::atomic<std::int32_t> installError{0};
   /// The run has ended, well or not.
   std::atomic<bool> installDone{false};
