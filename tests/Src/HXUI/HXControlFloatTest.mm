@@ -6,6 +6,7 @@
 #include "Src/HXUI/HXControlFloatList.h"
 #include "Src/HXUI/HXControlFloatParent.h"
 #include "tests/Src/HXUI/ControlFloatFixture.h"
+#include "tests/Src/HXUI/PaintedPanel.h"
 
 namespace {
 
@@ -124,6 +125,22 @@ TEST_F(HXControlFloatTest, DrawsTheTextOverDots) {
   EXPECT_GT(pixels->Ink({text.width, 0, size.width - text.width, text.height}, kBackground), 0);
   EXPECT_TRUE(IsNear(Brightest(*pixels, {0, 0, size.width, text.height}), kAccent, 12));
   EXPECT_EQ(pixels->Ink({0, text.height + 1, size.width, 17 - text.height}, kBackground), 0);
+}
+
+TEST_F(HXControlFloatTest, TheTextIsInVerdanaOfTenPointsFromTheLeftEdge) {
+  const HXSize size = Make(4)->GetSize();
+  const auto drawn = Draw(*field);
+  PaintedPanel expected(window.get(), size, [size](HXCocoaDC& dc) {
+    dc.SetFillColor(kBackground);
+    dc.DrawRect({0, 0, size.width, size.height});
+    dc.SetTextColor(kAccent);
+    dc.SetFont("Verdana", 0, 10);
+    dc.DrawText("50.0%", {-1, 2, 0, 0}, 0);
+    const HXSize number = dc.MeasureText("50.0", {0, 0}, 0);
+    dc.SetFillColor(kAccent);
+    dc.DrawDots({0, number.height}, number.width);
+  });
+  EXPECT_EQ(CountUnlike(*drawn, *Draw(expected)), 0);
 }
 
 TEST_F(HXControlFloatTest, AnUnboundFieldIsGrey) {
