@@ -2,14 +2,8 @@
 
 #include <cstdlib>
 
-#include "Src/HXUI/HXColorImages.h"
-#include "Src/HXUI/HXControlFloat.h"
 #include "Src/HXUI/HXObjectGuard.h"
-#include "Src/HXUI/HXSystemButton.h"
-#include "Src/HXUI/HXTextBox.h"
-#include "Src/HXUI/KeyCode.h"
-#include "tests/Src/HXUI/ControlTestHelpers.h"
-#include "tests/Src/HXUI/PaintedPanel.h"
+#include "tests/Src/HXUI/ColorDialogFixture.h"
 
 namespace {
 
@@ -20,80 +14,10 @@ constexpr HXColor kBlack{0, 0, 0, 255};
 constexpr HXPoint kInitialSwatch{340, 60};
 /// Where the square starts, with no saturation and the full value.
 constexpr HXPoint kWhiteCorner{7, 7};
-constexpr HXPoint kHueTop{280, 7};
 
 using Changes = std::vector<int>;
 
-class HXColorDialogTest : public ToolkitFixture {
- protected:
-  HXColorDialogTest() { Open(kGreen); }
-
-  void Open(HXColor first) {
-    color = first;
-    owner.changes.clear();
-    dialog = std::make_unique<HXColorDialog>(window.get(), &color);
-    dialog->SetChangeHandler(&ChangeRecorder::OnChange, &owner, 0);
-    dialog->SetVisible(true);
-    PumpUntil([this] { return dialog->IsKeyWindow(); }, "the dialog to become key");
-    // A window of odd width is centred between two pixels.
-    dialog->SetPosition(dialog->GetPosition());
-  }
-
-  template <class Widget>
-  Widget& Child(std::size_t index) const {
-    std::vector<Widget*> found;
-    for (HXObject* child : dialog->GetChildren()) {
-      if (auto* widget = dynamic_cast<Widget*>(child)) found.push_back(widget);
-    }
-    return *found.at(index);
-  }
-  HXSystemButton& Ok() const { return Child<HXSystemButton>(0); }
-  HXSystemButton& Cancel() const { return Child<HXSystemButton>(1); }
-  /// Red, green, blue.
-  HXControlFloat& Field(std::size_t index) const { return Child<HXControlFloat>(index); }
-  HXTextBox& Hex() const { return Child<HXTextBox>(0); }
-  int EditedField() const {
-    for (int i = 0; i < 3; ++i) {
-      if (Field(static_cast<std::size_t>(i)).IsEditing()) return i;
-    }
-    return -1;
-  }
-
-  Changes Notifications() const {
-    Changes notifications;
-    for (const Change& change : owner.changes) notifications.push_back(change.notification);
-    return notifications;
-  }
-
-  void Press(HXPoint point) { SendMouse(NSLeftMouseDown, *dialog, point); }
-  void DragTo(HXPoint point) { SendMouse(NSLeftMouseDragged, *dialog, point); }
-  void Release(HXPoint point) { SendMouse(NSLeftMouseUp, *dialog, point); }
-
-  /// Through the application's queue, as real keys come.
-  void Type(NSString* characters) {
-    for (NSUInteger i = 0; i < [characters length]; ++i) {
-      NSString* one = [characters substringWithRange:NSMakeRange(i, 1)];
-      [NSApp postEvent:KeyDownEvent(*dialog, one) atStart:NO];
-      Pump();
-    }
-  }
-  void TypeHex(NSString* digits) {
-    Hex().SelectAll();
-    Hex().SetFocus();
-    Type(digits);
-  }
-  /// What any key does when it comes up.
-  void KeyUp() {
-    HXEventSinkRecord record{dialog.get(), kKeyUp, 'a', 1};
-    dialog->OnEventSink(record);
-  }
-
-  HXColor color;
-  ChangeRecorder owner;
-  std::unique_ptr<HXColorDialog> dialog;
-};
-
-// Building and looks
+class HXColorDialogTest : public ColorDialogFixture {};
 
 TEST_F(HXColorDialogTest, HoldsButtonsFieldsAndTheHexEntry) {
   EXPECT_EQ(dialog->GetSize(), (HXSize{385, 270}));
@@ -114,69 +38,6 @@ TEST_F(HXColorDialogTest, HoldsButtonsFieldsAndTheHexEntry) {
   EXPECT_TRUE(owner.changes.empty());
   Open({255, 128, 0, 255});
   EXPECT_EQ(Hex().GetText(), "FF8000");
-}
-
-TEST_F(HXColorDialogTest, DrawsTheSquareAndTheBarOfTheHue) {
-  Open({60, 120, 200, 255});
-  const auto pixels = Draw(*dialog);
-  std::vector<unsigned char> square(4 * 256 * 256);
-  HXColorImages::FillSquare(square.data(), 214.28572F);
-  int unlike = 0;
-  for (int y = 100; y < 256; ++y) {
-    for (int x = 0; x < 256; ++x) {
-      const unsigned char* pixel = square.data() + 4 * (y * 256 + x);
-      unlike += !IsNear(pixels->At(x + 7, y + 7), {pixel[0], pixel[1], pixel[2], 255}, 1);
-    }
-  }
-  EXPECT_EQ(unlike, 0);
-  EXPECT_EQ(pixels->At(275, 7), kRed);
-  EXPECT_EQ(pixels->At(275, 262), kRed);
-  EXPECT_TRUE(IsNear(pixels->At(275, 7 + 170), kGreen, 3));
-}
-
-TEST_F(HXColorDialogTest, DrawsTheSwatchesTheFrameAndTheMarkers) {
-  Press(kHueTop);
-  Release(kHueTop);
-  ASSERT_EQ(color, kRed);
-  const auto pixels = Draw(*dialog);
-  EXPECT_EQ(CountOther(*pixels, {302, 7, 76, 35}, kRed), 0);
-  EXPECT_EQ(CountOther(*pixels, {302, 42, 76, 35}, kGreen), 0);
-  const HXColor frame{160, 240, 252, 255};
-  EXPECT_EQ(CountOther(*pixels, {318, 158, 54, 1}, frame), 0);
-  EXPECT_EQ(CountOther(*pixels, {318, 177, 54, 1}, frame), 0);
-  EXPECT_EQ(CountOther(*pixels, {318, 158, 1, 20}, frame), 0);
-  EXPECT_EQ(CountOther(*pixels, {371, 158, 1, 20}, frame), 0);
-  // The hue marker is two black lines across the bar, here at its top.
-  EXPECT_EQ(pixels->At(275, 11), kBlack);
-  // The bar is seen between them.
-  EXPECT_TRUE(IsNear(pixels->At(275, 8), kRed, 12));
-  // The ring in the square's corner is black on a bright colour.
-  EXPECT_EQ(pixels->At(257, 7), kBlack);
-  EXPECT_NE(pixels->At(262, 7), kBlack);
-}
-
-TEST_F(HXColorDialogTest, TheFieldsHaveWhiteLabelsInVerdanaOfTenPoints) {
-  const HXSize size = dialog->GetSize();
-  const auto drawn = Draw(*dialog);
-  PaintedPanel expected(window.get(), size, [&](HXCocoaDC& dc) {
-    dc.SetFillColor(dialog->GetColor());
-    dc.DrawRect({0, 0, size.width, size.height});
-    dc.SetFont("Verdana", 0, 10);
-    dc.SetTextColor(kWhite);
-    dc.DrawText("R:", {310, 92, 0, 0}, 0);
-    dc.DrawText("G:", {310, 112, 0, 0}, 0);
-    dc.DrawText("B:", {310, 132, 0, 0}, 0);
-    dc.DrawText("#", {308, 160, 0, 0}, 0);
-  });
-  // From below the swatches to above the buttons, left of the hex entry's frame.
-  EXPECT_EQ(CountUnlike(*drawn, *Draw(expected), {300, 80, 18, 105}), 0);
-}
-
-TEST_F(HXColorDialogTest, TheRingIsWhiteOnDarkColours) {
-  Open({0, 100, 0, 255});
-  const auto isWhite = [](HXColor pixel) { return pixel == kWhite; };
-  // Saturation 1, value 100 / 255.
-  EXPECT_GT(Draw(*dialog)->Count({250, 155, 13, 14}, isWhite), 8);
 }
 
 // Picking with the pointer

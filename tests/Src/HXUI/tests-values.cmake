@@ -1,6 +1,7 @@
 # The tests of numbers, colours and searching.
 set(HXUI_VALUE_TESTS
   HXBrowserSearchTest.mm
+  HXColorDialogDrawingTest.mm
   HXColorDialogTest.mm
   HXColorImagesTest.cpp
   HXColorPickerTest.mm
