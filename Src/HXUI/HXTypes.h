@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
 /// A colour of four bytes, each 0 to 255; red lies in the lowest byte of the
@@ -17,6 +18,8 @@ struct HXColor {
   friend constexpr bool operator==(const HXColor&, const HXColor&) = default;
 };
 static_assert(sizeof(HXColor) == 4);
+static_assert(std::bit_cast<std::uint32_t>(HXColor{.red = 1, .green = 2, .blue = 3, .alpha = 4}) ==
+              0x04030201U);
 
 /// A position in pixels; x grows to the right, y downward.
 struct HXPoint {
