@@ -15,8 +15,10 @@ class HXCocoaDC;
 /// field is idle and a button that clears it while there is text. Made for a
 /// height of 30 pixels. Owned by its parent.
 ///
-/// The owner hears `kChangeDone` whenever the text has changed, by typing or by
-/// clearing, and nothing of the focus.
+/// The owner hears `kChangeDone` when the text has changed, by typing or by
+/// clearing, and again when a key comes up in the field: twice for a letter, and
+/// once for a key that only moves the caret. Tab, Return and Escape that come up
+/// are left out. It hears nothing of the focus.
 class HXBrowserSearch : public HXPanel, public HXControl {
  public:
   /// `text` is what the field holds at first, in UTF-8; `flags` are the

@@ -8,7 +8,8 @@
 /// field: whoever reads the idle field gets it.
 ///
 /// Tells the strip `kChangeStep` when the focus comes or goes and
-/// `kChangeDone` when the text has changed.
+/// `kChangeDone` when the text has changed and when any key but Tab, Return and
+/// Escape comes up while the field has the focus.
 class HXBrowserSearchBox : public HXTextControl, public HXControl {
  public:
   HXBrowserSearchBox(HXObject* parent, HXPoint position, HXSize size, const std::string& text,

@@ -23,9 +23,9 @@ class HXBrowserSearchTest : public TextFixture {
  protected:
   HXBrowserSearchTest() { Make(""); }
 
-  void Make(const std::string& text) {
+  void Make(const std::string& text, std::uint32_t flags = 0) {
     delete search;
-    search = new HXBrowserSearch(window.get(), {50, 50}, kSize, text, 0);
+    search = new HXBrowserSearch(window.get(), {50, 50}, kSize, text, flags);
     search->SetChangeHandler(&ChangeRecorder::OnChange, &owner, 3);
   }
 
@@ -63,6 +63,15 @@ TEST_F(HXBrowserSearchTest, IsBuiltFromABoxAndAHiddenButton) {
   EXPECT_EQ(ClearButton().GetPosition(), (HXPoint{177, 7}));
   EXPECT_EQ(ClearButton().GetSize(), (HXSize{16, 15}));
   EXPECT_FALSE(ClearButton().IsVisible());
+}
+
+TEST_F(HXBrowserSearchTest, ItsFlagsAreTheBoxs) {
+  EXPECT_NE([FieldOf(Box()) alignment], NSCenterTextAlignment);
+  EXPECT_TRUE([FieldOf(Box()) isEditable]);
+  Make("oak", HXTextControl::kCentred | HXTextControl::kReadOnly);
+  EXPECT_EQ([FieldOf(Box()) alignment], NSCenterTextAlignment);
+  EXPECT_FALSE([FieldOf(Box()) isEditable]);
+  EXPECT_EQ([FieldOf(Box()) focusRingType], NSFocusRingTypeNone);
 }
 
 TEST_F(HXBrowserSearchTest, TheInitialTextReplacesThePlaceholder) {
@@ -188,6 +197,16 @@ TEST_F(HXBrowserSearchTest, TabReturnAndEscapeAreNoChangesOfTheText) {
   HXEventSinkRecord record{&Box(), kKeyUp, 'a', 1};
   Box().OnEventSink(record);
   EXPECT_EQ(Notifications(), (Changes{2}));
+}
+
+TEST_F(HXBrowserSearchTest, EveryKeyThatComesUpIsReportedOnceMore) {
+  search->OnFocusGained();
+  Type(@"o");
+  SendKeyUp(*window, @"o");
+  EXPECT_EQ(Notifications(), (Changes{2, 2}));
+  SendKeyUp(*window,
+            [NSString stringWithFormat:@"%C", static_cast<unichar>(NSLeftArrowFunctionKey)]);
+  EXPECT_EQ(Notifications(), (Changes{2, 2, 2}));
 }
 
 TEST_F(HXBrowserSearchTest, KeysElsewhereAreNoChangesOfTheText) {
