@@ -49,6 +49,15 @@ class ControlFloatFixture : public TextFixture {
   }
   void Release(int x, int y) { SendMouse(NSLeftMouseUp, *field, {kInside.x + x, kInside.y + y}); }
 
+  /// By how much a drag by `x` and `y` changes the number.
+  float Dragged(int x, int y) {
+    const float before = number;
+    Press();
+    DragTo(x, y);
+    Release(x, y);
+    return number - before;
+  }
+
   float number = 50;
   ChangeRecorder owner;
   HXControlFloat* field = nullptr;

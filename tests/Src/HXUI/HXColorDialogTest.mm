@@ -223,20 +223,6 @@ TEST_F(HXColorDialogTest, TabMovesTheTypingAmongTheFields) {
   EXPECT_EQ(EditedField(), 1);
 }
 
-TEST_F(HXColorDialogTest, TabWithShiftMovesBackward) {
-  Type(@"\t");
-  ASSERT_EQ(std::system("xdotool keydown Shift_L"), 0);
-  Type(@"\t");
-  EXPECT_EQ(EditedField(), 2);
-  Type(@"\t");
-  EXPECT_EQ(EditedField(), 1);
-  ASSERT_EQ(std::system("xdotool keyup Shift_L"), 0);
-  HXEventSinkRecord record{&Hex(), kKeyDown, kKeyBackTab, 1};
-  dialog->OnEventSink(record);
-  EXPECT_EQ(record.pass, 0);
-  EXPECT_EQ(EditedField(), 0);
-}
-
 // Ending
 
 TEST_F(HXColorDialogTest, OkAcceptsOnThePress) {

@@ -1,7 +1,6 @@
 #include "Src/HXUI/HXControlFloat.h"
 
 #include <cmath>
-#include <cstdlib>
 
 #include "Src/HXUI/HXControlFloatList.h"
 #include "Src/HXUI/HXControlFloatParent.h"
@@ -15,23 +14,6 @@ constexpr HXColor kAccent{116, 200, 243, 255};
 constexpr HXColor kUnbound{131, 132, 133, 255};
 
 using Changes = std::vector<int>;
-
-/// Keys and buttons of the real display.
-void Do(const std::string& action) {
-  const std::string command = "xdotool " + action;
-  EXPECT_EQ(std::system(command.c_str()), 0) << command;
-}
-
-class HeldKeys {
- public:
-  explicit HeldKeys(std::string keyNames) : names(std::move(keyNames)) { Do("keydown " + names); }
-  ~HeldKeys() { Do("keyup " + names); }
-  HeldKeys(const HeldKeys&) = delete;
-  HeldKeys& operator=(const HeldKeys&) = delete;
-
- private:
-  std::string names;
-};
 
 class CountingParent : public HXPanel, public HXControlFloatParent {
  public:
@@ -50,26 +32,7 @@ class CountingField : public HXControlFloat {
   int draws = 0;
 };
 
-class HXControlFloatTest : public ControlFloatFixture {
- protected:
-  /// By how much a drag by `x` and `y` changes the number.
-  float Dragged(int x, int y) {
-    const float before = number;
-    Press();
-    DragTo(x, y);
-    Release(x, y);
-    return number - before;
-  }
-
-  /// Moves the pointer as the user would. In the X window's own coordinates:
-  /// its place on the screen is known only when the window manager has told it.
-  void MoveRealPointer(HXPoint point) {
-    const HXPoint offset = window->GetOffsetOf(*field);
-    const auto xWindow = reinterpret_cast<std::uintptr_t>([NativeWindow() windowRef]);
-    Do("mousemove --window " + std::to_string(xWindow) + " " + std::to_string(offset.x + point.x) +
-       " " + std::to_string(offset.y + point.y));
-  }
-};
+class HXControlFloatTest : public ControlFloatFixture {};
 
 // Building and looks
 
@@ -313,37 +276,6 @@ TEST_F(HXControlFloatTest, ATinyNegativeAngleIsZero) {
   DragTo(1, 1);
   EXPECT_EQ(number, 0);
   Release(1, 1);
-}
-
-TEST_F(HXControlFloatTest, ShiftTriplesTheStepAndCommandTakesAFifth) {
-  Make(0, 0, 0);
-  {
-    const HeldKeys shift("Shift_L");
-    EXPECT_FLOAT_EQ(Dragged(10, 0), 15);
-  }
-  {
-    const HeldKeys command("Alt_L");
-    EXPECT_FLOAT_EQ(Dragged(10, 0), 1);
-  }
-  {
-    const HeldKeys both("Shift_L Alt_L");
-    EXPECT_FLOAT_EQ(Dragged(10, 0), 15);
-  }
-  EXPECT_FLOAT_EQ(Dragged(10, 0), 5);
-}
-
-TEST_F(HXControlFloatTest, ARealPointerDragsBeyondTheField) {
-  Make(0, 0, 0);
-  MoveRealPointer({5, 9});
-  Do("mousedown 1");
-  PumpUntil([&] { return field->HasMouseCapture(); }, "the press");
-  MoveRealPointer({65, 9});
-  PumpUntil([&] { return number != 50; }, "the drag");
-  Do("mouseup 1");
-  PumpUntil([&] { return !field->HasMouseCapture(); }, "the release");
-  EXPECT_FLOAT_EQ(number, 80);
-  EXPECT_EQ(Notifications().front(), 0);
-  EXPECT_EQ(Notifications().back(), 2);
 }
 
 TEST_F(HXControlFloatTest, OtherButtonsDoNothing) {

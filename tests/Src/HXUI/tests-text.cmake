@@ -8,9 +8,12 @@ set(HXUI_TEXT_TESTS
   HXTextControlTest.mm
   HXTextDelegateTest.mm
   HXTextFieldTest.mm
-  KeyStateTest.mm
   RtfFieldsTest.cpp
   RtfFontSizesTest.cpp
   RtfWordsTest.cpp
   RtfFontTableTest.cpp
   WorkspaceTest.mm)
+if(GNUSTEP)
+  # It presses keys of the X server's keyboard.
+  list(APPEND HXUI_TEXT_TESTS GNUstep/KeyStateTest.mm)
+endif()

@@ -1,28 +1,13 @@
 #include "Src/HXUI/Cocoa/KeyState.h"
 
-#include <cstdlib>
+#include <climits>
 #include <set>
+#include <string>
 
+#include "tests/Src/HXUI/GNUstep/HeldKeys.h"
 #include "tests/Src/HXUI/ToolkitFixture.h"
 
 namespace {
-
-/// Holds a key of the real keyboard down while it lives.
-class HeldKey {
- public:
-  explicit HeldKey(const std::string& keyName) : name(keyName) { Send("keydown"); }
-  ~HeldKey() { Send("keyup"); }
-  HeldKey(const HeldKey&) = delete;
-  HeldKey& operator=(const HeldKey&) = delete;
-
- private:
-  void Send(const std::string& action) const {
-    const std::string command = "xdotool " + action + " " + name;
-    EXPECT_EQ(std::system(command.c_str()), 0) << command;
-  }
-
-  std::string name;
-};
 
 class KeyStateTest : public ToolkitFixture {
  protected:
@@ -37,7 +22,7 @@ class KeyStateTest : public ToolkitFixture {
 
   void ExpectDown(const std::string& name, const std::set<int>& expected) {
     {
-      const HeldKey held(name);
+      const HeldKeys held(name);
       EXPECT_EQ(KeysDown(), expected) << name;
     }
     EXPECT_EQ(KeysDown(), std::set<int>()) << name;
@@ -62,11 +47,11 @@ TEST_F(KeyStateTest, ModifiersAreDownByTheirOwnKeys) {
 TEST_F(KeyStateTest, TheModifiersOnTheRightHaveKeysOfTheirOwn) {
   // The tool presses the modifier on the left along with them.
   {
-    const HeldKey held("Shift_R");
+    const HeldKeys held("Shift_R");
     EXPECT_EQ(KeysDown().count(60), 1U);
   }
   {
-    const HeldKey held("Control_R");
+    const HeldKeys held("Control_R");
     EXPECT_EQ(KeysDown().count(62), 1U);
   }
   EXPECT_EQ(KeysDown(), std::set<int>());
@@ -158,13 +143,13 @@ TEST_F(KeyStateTest, LettersDigitsAndOtherKeysAreDownByTheirs) {
 }
 
 TEST_F(KeyStateTest, SeveralKeysAreDownAtATime) {
-  const HeldKey shift("Shift_L");
-  const HeldKey letter("d");
+  const HeldKeys shift("Shift_L");
+  const HeldKeys letter("d");
   EXPECT_EQ(KeysDown(), (std::set<int>{kVirtualKeyShift, 2}));
 }
 
 TEST_F(KeyStateTest, ValuesThatNameNoKeyAreNeverDown) {
-  const HeldKey held("a");
+  const HeldKeys held("a");
   for (const int key : {-1, 52, 63, 128, 65536, INT_MAX, INT_MIN}) EXPECT_FALSE(IsKeyDown(key));
 }
 
