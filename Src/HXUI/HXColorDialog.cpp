@@ -203,13 +203,14 @@ void HXColorDialog::OnFieldChange(HXObject* target, std::uint32_t, HXControl*, i
 
 void HXColorDialog::Synchronise() {
   if (IsClosed()) return;
+  // The fields do not show the alpha: a difference in nothing else is no typing of theirs.
   const HXColor current{edited->red, edited->green, edited->blue, 255};
   if (ChannelColor() != current) {
     SetHexText(ChannelColor());
-  } else if (!ReadHexBox()) {
+  } else if (!ReadHexBox() && *edited == current) {
     return;
   }
-  if (ChannelColor() != current) {
+  if (ChannelColor() != *edited) {
     *edited = ChannelColor();
     if (!NotifyChange(this, kChangeStep)) return;
     SetHsvFrom(*edited);

@@ -1,7 +1,5 @@
 #include "Src/HXUI/HXColorDialog.h"
 
-#include <cstdlib>
-
 #include "Src/HXUI/HXObjectGuard.h"
 #include "tests/Src/HXUI/ColorDialogFixture.h"
 
@@ -191,6 +189,17 @@ TEST_F(HXColorDialogTest, AKeyWithoutAnyChangeReportsNothing) {
   KeyUp();
   KeyUp();
   EXPECT_TRUE(owner.changes.empty());
+}
+
+TEST_F(HXColorDialogTest, AnyKeyMakesATranslucentColourOpaque) {
+  Open({0, 255, 0, 128});
+  KeyUp();
+  EXPECT_EQ(color, kGreen);
+  KeyUp();
+  EXPECT_EQ(Notifications(), (Changes{1}));
+  Open({0, 255, 0, 128});
+  TypeHex(@"0000FF");
+  EXPECT_EQ(color, kBlue);
 }
 
 TEST_F(HXColorDialogTest, AFieldChangesTheColourAndTheHexEntry) {
