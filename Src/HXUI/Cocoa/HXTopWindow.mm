@@ -31,8 +31,9 @@
 - (void)resetCursorRects {
   // GNUstep looks where the pointer is and takes that for the last event's place. The pointer
   // may be inside of a widget by then, which the event that brings it there would no longer enter.
-  const PointerTrail trail(self);
+  const NSPoint place = LastSeenPointer(self);
   [super resetCursorRects];
+  SetLastSeenPointer(self, place);
 }
 
 - (void)sendEvent:(NSEvent*)event {

@@ -1,23 +1,13 @@
 #pragma once
 
-#include "Src/HXUI/Cocoa/NativeTypes.h"
+#import <AppKit/AppKit.h>
 
-/// Keeps, for as long as it lives, the place at which `window` has last seen the
-/// pointer in an event. The platform tells from there to the next event's place
-/// what the pointer has entered and left. Main thread only.
-class PointerTrail {
- public:
-  explicit PointerTrail(NSWindow* keptWindow);
-  ~PointerTrail();
-  PointerTrail(const PointerTrail&) = delete;
-  PointerTrail& operator=(const PointerTrail&) = delete;
+// For Objective-C++ only; main thread only.
 
- private:
-  struct Place {
-    double x = 0;
-    double y = 0;
-  };
+/// The place, in its own coordinates, at which `window` has last seen the pointer in an
+/// event. From there to the next event's place the platform tells what the pointer has
+/// entered and left. The origin where the platform keeps that to itself.
+NSPoint LastSeenPointer(NSWindow* window);
 
-  NSWindow* window;
-  Place place;
-};
+/// Makes `window` go on from `place`; nothing where the platform keeps that to itself.
+void SetLastSeenPointer(NSWindow* window, NSPoint place);

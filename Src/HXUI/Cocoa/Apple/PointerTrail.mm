@@ -1,5 +1,5 @@
 #include "Src/HXUI/Cocoa/PointerTrail.h"
 
 // Nothing but events moves it here.
-PointerTrail::PointerTrail(NSWindow* keptWindow) : window(keptWindow) {}
-PointerTrail::~PointerTrail() = default;
+NSPoint LastSeenPointer(NSWindow*) { return NSZeroPoint; }
+void SetLastSeenPointer(NSWindow*, NSPoint) {}

@@ -1,27 +1,22 @@
 #include "Src/HXUI/Cocoa/PointerTrail.h"
 
-#import <AppKit/AppKit.h>
-
 @interface NSWindow (HXPointerTrail)
-- (NSPoint)lastSeenPoint;
-- (void)setLastSeenPoint:(NSPoint)point;
+- (NSPoint)lastSeenPointer;
+- (void)setLastSeenPointer:(NSPoint)place;
 @end
 
 @implementation NSWindow (HXPointerTrail)
 
-- (NSPoint)lastSeenPoint {
+- (NSPoint)lastSeenPointer {
   return _lastPoint;
 }
 
-- (void)setLastSeenPoint:(NSPoint)point {
-  _lastPoint = point;
+- (void)setLastSeenPointer:(NSPoint)place {
+  _lastPoint = place;
 }
 
 @end
 
-PointerTrail::PointerTrail(NSWindow* keptWindow) : window(keptWindow) {
-  const NSPoint point = [window lastSeenPoint];
-  place = {point.x, point.y};
-}
+NSPoint LastSeenPointer(NSWindow* window) { return [window lastSeenPointer]; }
 
-PointerTrail::~PointerTrail() { [window setLastSeenPoint:NSMakePoint(place.x, place.y)]; }
+void SetLastSeenPointer(NSWindow* window, NSPoint place) { [window setLastSeenPointer:place]; }
