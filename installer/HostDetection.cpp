@@ -14,10 +14,12 @@ std::string ContainingFolder(std::string_view path) {
 }
 
 /// An absent signature counts as the host's: such an application still needs a
-/// known version to matter.
+/// known version to matter. One that is no text is another's.
 bool HasHostSignature(const PropertyValue& info) {
-  const std::string* signature = info.FindString("CFBundleSignature");
-  return signature == nullptr || *signature == "FXTC";
+  const PropertyValue* signature = info.Find("CFBundleSignature");
+  if (signature == nullptr) return true;
+  const std::string* text = signature->AsString();
+  return text != nullptr && *text == "FXTC";
 }
 
 void NoteApplication(const std::string& application, const PropertyValue& info,
