@@ -40,6 +40,7 @@ void HXObject::RemoveChild(HXObject* child) {
 
 void HXObject::Close() {
   if (closed) return;
+  // First of all: whoever loses the keyboard by this may close the widget once more.
   closed = true;
   GiveUpCapture();
   const HXObjectGuard guard(this);
