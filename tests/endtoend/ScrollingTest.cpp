@@ -48,7 +48,6 @@ class ScrollingTest : public EndToEndTest {
     ASSERT_TRUE(IsShifted(text, first, kNotchPixels));
     pointer.TurnWheel(1);
     ASSERT_TRUE(wizard.Shows(text, first));
-    pointer.TurnWheel(1);
     pointer.TurnWheel(-4);
     ASSERT_TRUE(IsShifted(text, first, 4 * kNotchPixels));
 
