@@ -38,7 +38,7 @@ Layout MakeLayout(NSString* text, const TextLook& look, NSSize size) {
     const NSRect used = [made.manager usedRectForTextContainer:container];
     made.isCut = NSMinX(used) < 0 || NSMinY(used) > 0 || NSMaxX(used) > size.width ||
                  NSMaxY(used) > size.height;
-    const NSRect box = NSMakeRect(0, 0, size.width, size.height);
+    const NSRect box{NSZeroPoint, size};
     made.shown = [made.manager glyphRangeForBoundingRect:box inTextContainer:container];
   }
   // Only now that nothing has been raised.
