@@ -69,7 +69,8 @@ class HXTextControl : public HXPanel {
   /// In UTF-16 units, 100 at first. A change by the user that makes the text
   /// longer is undone as a whole. Does not touch the text that is there.
   void SetMaxLength(int length);
-  /// True for an event sink that hears (`kKeyUp`) of a change which is undone next.
+  /// Whether the text is longer than that: set so by `SetText`, or, for an event sink that hears
+  /// of it (`kKeyUp`), by a change that is undone next. Never for a multi-line control.
   bool IsTooLong() const;
   /// Of a single-line control, which has the platform's font otherwise; `size` in points. As
   /// `HXCocoaDC` finds fonts, so a text measured there is as wide here.
